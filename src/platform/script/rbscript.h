@@ -39,9 +39,11 @@ class RbScript {
   }
 
  private:
+  // The compiled form of one Source text, or the fault that stopped its compilation.
   struct Program;
+  std::unique_ptr<Program> compile() const;
+  void reportFault(const Program& program);
   std::unique_ptr<Program> compiled_;
-  QString compiledSource_;
 };
 
 }  // namespace platform
