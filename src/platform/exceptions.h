@@ -38,4 +38,28 @@ class OutOfBoundsException : public FrameworkException {
   QString kind() const override { return QStringLiteral("OutOfBoundsException"); }
 };
 
+// A control, a property or a window property that is not there, or a parameterised
+// property name that does not read ("Cell(1)", "Cell(a,b)"). The scenario driver stops
+// on it: it is a fault of the script, not of the program.
+class UnknownNameException : public FrameworkException {
+ public:
+  using FrameworkException::FrameworkException;
+  QString kind() const override { return QStringLiteral("UnknownNameException"); }
+};
+
+// A value assigned by name that the property cannot take: a read-only property, or a
+// text that is no number or boolean where one is needed.
+class PropertyValueException : public FrameworkException {
+ public:
+  using FrameworkException::FrameworkException;
+  QString kind() const override { return QStringLiteral("PropertyValueException"); }
+};
+
+// A Dictionary asked for a key it does not hold.
+class KeyNotFoundException : public FrameworkException {
+ public:
+  using FrameworkException::FrameworkException;
+  QString kind() const override { return QStringLiteral("KeyNotFoundException"); }
+};
+
 }  // namespace platform

@@ -18,7 +18,7 @@ enum class ControlKind {
 struct ControlSpec {
   QString name;
   ControlKind kind;
-  QString text;  // Caption or Text, by class; for a TabPanel its tabs, one per line
+  QString text = {};  // Caption or Text, by class; for a TabPanel its tabs, one per line
   int left = 0, top = 0, width = 0, height = 0;
   // Where it sits: on the window (empty), or on tab/page `page` of a TabPanel/PagePanel.
   QString panel = {};
