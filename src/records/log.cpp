@@ -5,9 +5,9 @@
 
 namespace app {
 
-void Window1::log(const QString& line) {
-  EditField2->setText(EditField2->Text() + line + platform::EndOfLine());
-}
+// An append in place: the log grows for as long as the program runs, and each line
+// must cost the same however long it has grown.
+void Window1::log(const QString& line) { EditField2->AppendText(line + platform::EndOfLine()); }
 
 // "Save": the whole log is appended to the file of the day, so a second save on one
 // day repeats the earlier lines; that is how the file is meant to grow.

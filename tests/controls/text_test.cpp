@@ -3,7 +3,9 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <optional>
+#include <vector>
 
 #include "platform/controls/controls.h"
 #include "platform/desktop/recording_desktop.h"
@@ -41,6 +43,28 @@ TEST(TextEdit, AssigningTextRaisesTextChangeOnlyOnChange) {
       EXPECT_EQ(seen, row.assigned) << "the handler sees the new text";
     }
   }
+}
+
+TEST(TextEdit, AppendingTellsWhereTheNewPartStarts) {
+  TextArea log("EditField2");
+  int changes = 0;
+  log.TextChange = [&] { ++changes; };
+  std::vector<QString> told;
+  log.addObserver([&](const QString& property) { told.push_back(property); });
+
+  log.AppendText("one\n");
+  EXPECT_EQ(log.appendedFrom(), 0);
+  log.AppendText("two\n");
+  EXPECT_EQ(log.Text(), "one\ntwo\n");
+  EXPECT_EQ(log.appendedFrom(), 4);
+  EXPECT_EQ(log.SelStart(), 8);
+  log.AppendText("");  // nothing to add is no change
+  EXPECT_EQ(changes, 2);
+
+  log.setText("replaced");
+  EXPECT_EQ(log.appendedFrom(), -1);
+  EXPECT_EQ(changes, 3);
+  EXPECT_EQ(std::count(told.begin(), told.end(), QString("Text")), 3);
 }
 
 TEST(TextEdit, TypingGoesThroughKeyDownBeforeTheText) {

@@ -39,8 +39,15 @@ Alignment alignmentFromVariant(const QVariant& value, const QString& property) {
 bool TextControl::storeText(const QString& text) {
   if (text_ == text) return false;
   text_ = text;
+  appendedFrom_ = -1;
   changed(QStringLiteral("Text"));
   return true;
+}
+
+void TextControl::storeAppended(const QString& more) {
+  appendedFrom_ = text_.size();
+  text_ += more;
+  changed(QStringLiteral("Text"));
 }
 
 void TextControl::setText(const QString& text) { storeText(text); }
@@ -88,6 +95,14 @@ void TextEdit::setText(const QString& text) {
   selStart_ = static_cast<int>(text.size());
   selLength_ = 0;
   storeText(text);
+  raise(TextChange);
+}
+
+void TextEdit::AppendText(const QString& more) {
+  if (more.isEmpty()) return;
+  selStart_ = static_cast<int>(Text().size() + more.size());
+  selLength_ = 0;
+  storeAppended(more);
   raise(TextChange);
 }
 

@@ -25,6 +25,11 @@ class TextControl : public Control {
   Alignment alignment() const { return alignment_; }
   void setAlignment(Alignment alignment);
 
+  // Where the text told last to the observers as "Text" had its new part added at the
+  // end, or -1 when it was replaced as a whole: a renderer then appends instead of
+  // redrawing a log that may hold a hundred thousand lines.
+  qsizetype appendedFrom() const { return appendedFrom_; }
+
   const PropertyTable& properties() const override { return propertyTable(); }
   static const PropertyTable& propertyTable();
   void applyCreationText(const QString& text) override { setText(text); }
@@ -32,10 +37,13 @@ class TextControl : public Control {
  protected:
   // Stores the text and tells the observers; false when it was already so.
   bool storeText(const QString& text);
+  // Adds to the end in place, so the cost does not grow with the text.
+  void storeAppended(const QString& more);
 
  private:
   QString text_;
   Alignment alignment_ = Alignment::Default;
+  qsizetype appendedFrom_ = -1;
 };
 
 class StaticText : public TextControl {
@@ -54,6 +62,9 @@ class TextEdit : public TextControl {
 
   // A change raises TextChange and leaves the cursor at the end of the new text.
   void setText(const QString& text) override;
+  // Text + more, with the same events as setText, at a cost that does not depend on the
+  // length of the text already there.
+  void AppendText(const QString& more);
 
   // The selection, in characters; an empty selection is the cursor. Setting SelStart
   // collapses the selection there. Both are kept inside the text.
