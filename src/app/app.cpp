@@ -1,6 +1,7 @@
 #include "app/app.h"
 
 #include "app/window1.h"
+#include "guidance/window2.h"
 #include "platform/exceptions.h"
 #include "platform/files/special_folder.h"
 #include "platform/strings/strings.h"
@@ -15,7 +16,13 @@ void App::_Startup() {
   _InitFileTypes();
   _NewAppInstance();
   // No menu handlers of our own: the items do what text fields and quitting do.
-  showWindow1();
+  _MakeDefaultView();
+}
+
+// Window2 is made first; its Event_Open either stays or goes straight on to Window1.
+void App::_MakeDefaultView() {
+  window2_ = std::make_unique<Window2>(*this);
+  window2_->open();
 }
 
 void App::_InitFileTypes() { pText_ = {"text", "", "TEXT", "????"}; }
@@ -37,6 +44,7 @@ void App::_NewAppInstance() {
 }
 
 void App::quit() {
+  if (window2_) guard([this] { window2_->Close(); });
   if (window1_) guard([this] { window1_->Close(); });
 }
 
@@ -68,8 +76,10 @@ Window1& App::showWindow1() {
 std::optional<platform::Picture> App::picture(std::optional<platform::Picture>& cache,
                                               const QString& file) {
   if (!cache) {
+    // A Resources folder that is named but not there gives Nil children: no picture.
     const platform::FolderItem resources = platform::SpecialFolder::Resources();
-    if (resources) cache = resources.Child(file).OpenAsPicture();
+    const platform::FolderItem item = resources ? resources.Child(file) : platform::FolderItem();
+    if (item) cache = item.OpenAsPicture();
   }
   return cache;
 }
@@ -87,7 +97,9 @@ std::optional<platform::Sound> App::claves() {
   if (!clavesTried_) {
     clavesTried_ = true;
     const platform::FolderItem resources = platform::SpecialFolder::Resources();
-    if (resources) claves_ = resources.Child("claves.wav").OpenAsSound();
+    const platform::FolderItem item =
+        resources ? resources.Child("claves.wav") : platform::FolderItem();
+    if (item) claves_ = item.OpenAsSound();
   }
   return claves_;
 }

@@ -17,6 +17,7 @@
 namespace app {
 
 class Window1;
+class Window2;
 
 struct MenuItem {
   QString name;
@@ -45,8 +46,9 @@ class App {
 
   platform::Desktop& desktop() const { return desktop_; }
 
-  // The launch: file types, menu bar, then the first window. Returns when the windows
-  // of the launch are open; the event loop belongs to the caller.
+  // The launch: file types, menu bar, then the first window, the introduction, which
+  // decides when Window1 is shown. Returns when the windows of the launch are open;
+  // the event loop belongs to the caller.
   void _Startup();
   // Closing the windows as a user quitting does; the close events save what they save.
   void quit();
@@ -62,6 +64,9 @@ class App {
   // The main window; null until its first Show.
   Window1* window1() const { return window1_.get(); }
   Window1& showWindow1();
+  // The introduction, made at start-up; once either of its buttons (or a marked launch)
+  // has led on to Window1 it stays closed.
+  Window2* window2() const { return window2_.get(); }
 
   // Resources, fetched on first use and then kept. A picture getter that found no
   // Resources folder tries again at its next call; claves tries only once.
@@ -83,11 +88,13 @@ class App {
                                            const QString& file);
   void _InitFileTypes();
   void _NewAppInstance();
+  void _MakeDefaultView();
 
   platform::Desktop& desktop_;
   std::vector<MenuItem> menuBar_;
   FileType pText_;
   std::unique_ptr<Window1> window1_;
+  std::unique_ptr<Window2> window2_;
   std::optional<platform::Picture> target_, target2_, fullwindow1_, fullwindow2_;
   std::optional<platform::Sound> claves_;
   bool clavesTried_ = false;

@@ -37,6 +37,7 @@ void Window1::Event_Open() {
 
   // The preferences, when saved, are restored here, after "Initial State:", so that
   // each control they change logs its line beneath it.
+  restorePreferences();
 
   // Only the lookup is tested, never Exists: a file absent from a folder that is there
   // passes as present, and the load itself reports for itself.
