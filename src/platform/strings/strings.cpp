@@ -526,20 +526,24 @@ QString Chr(std::uint32_t codePoint) {
 QString EndOfLine() { return QStringLiteral("\n"); }
 
 QString ReplaceLineEndings(const QString& text, const QString& ending) {
-    QString out;
-    out.reserve(text.size());
+    // Whole data files pass through here at every search: copy runs of plain text in
+    // one piece, and hand back the text itself when it already has the wanted endings.
+    const QChar* const data = text.constData();
     const qsizetype n = text.size();
+    const bool lineFeedOnly = ending == u"\n";
+    if (lineFeedOnly && !text.contains(u'\r')) return text;
+    QString out;
+    out.reserve(n);
+    qsizetype runStart = 0;
     for (qsizetype i = 0; i < n; ++i) {
-        const QChar c = text[i];
-        if (c == u'\r') {
-            if (i + 1 < n && text[i + 1] == u'\n') ++i;
-            out += ending;
-        } else if (c == u'\n') {
-            out += ending;
-        } else {
-            out += c;
-        }
+        const QChar c = data[i];
+        if (c != u'\r' && c != u'\n') continue;
+        out.append(data + runStart, i - runStart);
+        if (c == u'\r' && i + 1 < n && data[i + 1] == u'\n') ++i;
+        out += ending;
+        runStart = i + 1;
     }
+    out.append(data + runStart, n - runStart);
     return out;
 }
 

@@ -1,5 +1,9 @@
 #include "platform/xml/xml.h"
 
+#include <memory>
+#include <string>
+#include <unordered_map>
+
 #include <pugixml.hpp>
 
 #include <QByteArray>
@@ -161,6 +165,24 @@ QString XmlNode::GetAttribute(const QString& name) const {
   return utf8(handle(node_).attribute(key.constData()).value());
 }
 
+namespace {
+
+// Compiled queries by their text. The program runs the same few queries ("Key" and
+// "Value" for every record of a data file) thousands of times a search, and compiling
+// costs more than evaluating. Bounded: a program that made up queries endlessly would
+// only ever hold the last few.
+const pugi::xpath_query& compiledQuery(const QByteArray& query) {
+  constexpr size_t kMaxCachedQueries = 64;
+  thread_local std::unordered_map<std::string, std::unique_ptr<pugi::xpath_query>> cache;
+  const std::string key(query.constData(), static_cast<size_t>(query.size()));
+  if (auto found = cache.find(key); found != cache.end()) return *found->second;
+  auto compiled = std::make_unique<pugi::xpath_query>(query.constData());  // throws if invalid
+  if (cache.size() >= kMaxCachedQueries) cache.clear();
+  return *cache.emplace(key, std::move(compiled)).first->second;
+}
+
+}  // namespace
+
 XmlNodeList XmlNode::Xql(const QString& xpath) const {
   XmlNodeList list;
   if (IsNil()) return list;
@@ -170,8 +192,7 @@ XmlNodeList XmlNode::Xql(const QString& xpath) const {
                  : pugi::xpath_node(handle(node_));
   pugi::xpath_node_set found;
   try {
-    const pugi::xpath_query compiled(query.constData());
-    found = compiled.evaluate_node_set(context);
+    found = compiledQuery(query).evaluate_node_set(context);
   } catch (const pugi::xpath_exception& fault) {
     QString message = QStringLiteral("Invalid XPath \"%1\": %2").arg(xpath, utf8(fault.what()));
     const std::ptrdiff_t offset = fault.result().offset;
