@@ -57,9 +57,9 @@ void Window1::formulaPath(const QString& w, const std::shared_ptr<platform::Dict
     // Only the first hit is headed by the search term.
     const QString prefix = EditField1->Text().isEmpty() ? query : platform::Chr(9);
     if (platform::InStr(keys.at(i).toString(), query) > 0) {
-      EditField1->setText(EditField1->Text() + EndOfLine() + prefix + ": " +
-                          dict.Value(dict.Key(i)).toString() + platform::Chr(9) + "(" +
-                          platform::Str(BevelButton1->MenuValue()) + "-" + platform::Str(i) + ")");
+      EditField1->AppendText(EndOfLine() + prefix + ": " + dict.Value(dict.Key(i)).toString() +
+                             platform::Chr(9) + "(" + platform::Str(BevelButton1->MenuValue()) +
+                             "-" + platform::Str(i) + ")");
     }
   }
 

@@ -53,8 +53,7 @@ void Window1::help(const QString& t, Input input) {
   const QString answer = t + " (Caption " + cap + "): " + lead + body;
   // The body ends in its own line ending, so nothing more is added to the log.
   const auto appendToLog = [&] {
-    EditField2->setText(EditField2->Text() + "Help(Caption:" + cap + "):" + lead +
-                        platform::EndOfLine() + body);
+    EditField2->AppendText("Help(Caption:" + cap + "):" + lead + platform::EndOfLine() + body);
   };
 
   platform::Clipboard clip(desktop());

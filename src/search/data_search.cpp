@@ -70,9 +70,10 @@ void searchDataSet(Window1& w, const DataSet& set, const QString& query) {
     if (InStr(key, query) != 0 || flag) {
       const QString value =
           platform::ReplaceLineEndings(search::firstText(record, "Value"), EndOfLine());
-      w.EditField1->setText(w.EditField1->Text() + EndOfLine() + prefix + ": " + value + Chr(9) +
-                            "(" + Str(static_cast<std::int32_t>(w.BevelButton1->MenuValue())) +
-                            "-" + Str(static_cast<std::int32_t>(i)) + ")");
+      // Appended in place: a literal search adds every record of the file.
+      w.EditField1->AppendText(EndOfLine() + prefix + ": " + value + Chr(9) + "(" +
+                               Str(static_cast<std::int32_t>(w.BevelButton1->MenuValue())) +
+                               "-" + Str(static_cast<std::int32_t>(i)) + ")");
     }
     flag = true;
   }
