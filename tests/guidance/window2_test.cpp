@@ -169,14 +169,6 @@ TEST_F(IntroTest, FinishedWithoutAPreferencesFolderShowsItsNoteAndStays) {
   EXPECT_EQ(program->window1(), nullptr);
 }
 
-TEST_F(IntroTest, ClosingTheIntroductionLeadsNowhere) {
-  makePreferencesFolder();
-  start();
-  intro->Close();
-  EXPECT_EQ(program->window1(), nullptr);
-  EXPECT_FALSE(markerExists());
-}
-
 struct Press {
   int x, y;
 };

@@ -6,7 +6,6 @@
 #include <QDragMoveEvent>
 #include <QDropEvent>
 #include <QMimeData>
-#include <QTemporaryDir>
 #include <QWindow>
 #include <memory>
 
@@ -18,11 +17,9 @@ namespace {
 
 class QtEnvironment : public ::testing::Environment {
  public:
+  // The platform (offscreen) and the runtime folder come from the environment every
+  // test program shares.
   void SetUp() override {
-    // CTest sets the platform; a run by hand gets the same.
-    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
-    runtime_ = std::make_unique<QTemporaryDir>();
-    qputenv("XDG_RUNTIME_DIR", runtime_->path().toLocal8Bit());
     application_ = std::make_unique<QApplication>(argc_, argv_);
     platform::qt::setUpApplication();
   }
@@ -32,7 +29,6 @@ class QtEnvironment : public ::testing::Environment {
   int argc_ = 1;
   char name_[8] = "test_qt";
   char* argv_[2] = {name_, nullptr};
-  std::unique_ptr<QTemporaryDir> runtime_;
   std::unique_ptr<QApplication> application_;
 };
 

@@ -311,14 +311,4 @@ TEST_F(PreferencesTest, SettingsControlsLogTheirChoice) {
   }
 }
 
-TEST_F(PreferencesTest, SettingsChangedWithoutSavingAreGoneAtTheNextLaunch) {
-  launchMain();
-  window->RadioButton1->userClick();
-  program->quit();
-  program.reset();
-  launch();
-  EXPECT_FALSE(QFileInfo::exists(home.path() + "/Preferences/VXKPreferences"));
-  EXPECT_EQ(settings(), kDefaultLine);
-}
-
 }  // namespace

@@ -29,8 +29,12 @@ class AppFixture : public ::testing::Test {
   }
   void TearDown() override { platform::SpecialFolder::clearOverrides(); }
 
-  // Starts the program; call after putting files in place.
+  // Starts the program with the introduction dismissed, so Window1 opens at once; call
+  // after putting files in place.
   app::Window1& launch() {
+    if (!QFile::exists(home.path() + "/Preferences/VXKInstr")) {
+      writeFile("Preferences/VXKInstr", "do not show");
+    }
     program = std::make_unique<app::App>(desktop);
     program->_Startup();
     window = program->window1();

@@ -168,6 +168,18 @@ bool hits(RegionProbe& probe, const Fit& fit, const Thing& thing, QPoint at) {
   return probe.textAt(p.x(), p.y(), true) == guidance::text(thing.text);
 }
 
+// How many pixels the centre of a thing that hits may move each way and still hit.
+int marginOf(RegionProbe& probe, const Fit& fit, const Thing& thing) {
+  const QPoint c = thing.rect.center();
+  int margin = 0;
+  while (margin < 8 && hits(probe, fit, thing, c + QPoint(margin + 1, 0)) &&
+         hits(probe, fit, thing, c - QPoint(margin + 1, 0)) && hits(probe, fit, thing, c + QPoint(0, margin + 1)) &&
+         hits(probe, fit, thing, c - QPoint(0, margin + 1))) {
+    ++margin;
+  }
+  return margin;
+}
+
 Fit bestFit(RegionProbe& probe, const std::vector<Thing>& things) {
   Fit best;
   // The window's left and top edges stay in the picture; its right and bottom give way.
@@ -178,15 +190,7 @@ Fit bestFit(RegionProbe& probe, const std::vector<Thing>& things) {
         for (const Thing& thing : things) {
           if (!hits(probe, fit, thing, thing.rect.center())) continue;
           ++fit.hits;
-          // Robustness: the centre may move this many pixels each way and still hit.
-          int margin = 0;
-          while (margin < 8 && hits(probe, fit, thing, thing.rect.center() + QPoint(margin + 1, 0)) &&
-                 hits(probe, fit, thing, thing.rect.center() - QPoint(margin + 1, 0)) &&
-                 hits(probe, fit, thing, thing.rect.center() + QPoint(0, margin + 1)) &&
-                 hits(probe, fit, thing, thing.rect.center() - QPoint(0, margin + 1))) {
-            ++margin;
-          }
-          fit.margin += margin;
+          fit.margin += marginOf(probe, fit, thing);
         }
         if (fit.hits > best.hits || (fit.hits == best.hits && fit.margin > best.margin)) best = fit;
       }
@@ -281,8 +285,13 @@ bool renderPictures(const QString& dir) {
               fit.dy, fit.hits, things.size());
   for (const Thing& thing : things) {
     const QPoint c = mapped(fit, thing.rect.center());
-    std::printf("  %-22s centre at (%3d, %3d) in the picture: %s\n", qPrintable(thing.what), c.x(), c.y(),
-                hits(probe, fit, thing, thing.rect.center()) ? "fits" : "MISSES its region");
+    if (hits(probe, fit, thing, thing.rect.center())) {
+      std::printf("  %-22s centre at (%3d, %3d) in the picture: fits, %d px to spare%s\n", qPrintable(thing.what),
+                  c.x(), c.y(), marginOf(probe, fit, thing), marginOf(probe, fit, thing) == 8 ? " or more" : "");
+    } else {
+      std::printf("  %-22s centre at (%3d, %3d) in the picture: MISSES its region\n", qPrintable(thing.what), c.x(),
+                  c.y());
+    }
   }
   const QPoint target = mapped(fit, things.size() > 1 ? things[1].rect.center() : QPoint());
   const QString toggled = probe.textAt(target.x(), target.y(), false);

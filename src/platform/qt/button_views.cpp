@@ -1,7 +1,5 @@
 #include <QCheckBox>
 #include <QPainter>
-#include <QStyle>
-#include <QStyleOptionFrame>
 #include <QMenu>
 #include <QPushButton>
 #include <QRadioButton>
@@ -119,13 +117,12 @@ class FramedBox : public QWidget {
  protected:
   void paintEvent(QPaintEvent*) override {
     QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
     const QFontMetrics metrics(font());
-    const int top = metrics.height() / 2;
-    QStyleOptionFrame frame;
-    frame.initFrom(this);
-    frame.rect = rect().adjusted(0, top, 0, 0);
-    frame.lineWidth = 1;
-    style()->drawPrimitive(QStyle::PE_FrameGroupBox, &frame, &painter, this);
+    const QRectF frame = QRectF(rect()).adjusted(0.5, metrics.height() / 2 + 0.5, -0.5, -0.5);
+    painter.setPen(palette().color(QPalette::Mid));
+    painter.setBrush(palette().color(QPalette::Window).darker(104));
+    painter.drawRoundedRect(frame, 3, 3);
     if (title_.isEmpty()) return;
     const QRect caption(8, 0, metrics.horizontalAdvance(title_) + 6, metrics.height());
     painter.fillRect(caption, palette().window());

@@ -30,8 +30,9 @@ MenuRole roleOf(const app::MenuItem& item) {
 }  // namespace
 
 void setUpApplication() {
+  // No display name: the desktop would add it to every window title, and the main
+  // window's title is "ABACON" alone.
   QApplication::setApplicationName(QStringLiteral("abacon"));
-  QApplication::setApplicationDisplayName(QStringLiteral("Abacon"));
   QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
 }
 

@@ -38,8 +38,7 @@ void QtDesktop::playSound(const Sound& sound) {
   if (sound.path.isEmpty()) return;
   // Without an audio output a sound effect only complains; the program carries on
   // without a word.
-  if (audioOutputs_ < 0) audioOutputs_ = static_cast<int>(QMediaDevices::audioOutputs().size());
-  if (audioOutputs_ == 0) return;
+  if (QMediaDevices::audioOutputs().isEmpty()) return;
   QSoundEffect*& effect = sounds_[sound.path.toStdString()];
   if (!effect) {
     effect = new QSoundEffect(this);
@@ -51,8 +50,7 @@ void QtDesktop::playSound(const Sound& sound) {
 }
 
 void QtDesktop::msgBox(const QString& text) {
-  QMessageBox box(QMessageBox::NoIcon, QGuiApplication::applicationDisplayName(), displayText(text),
-                  QMessageBox::Ok);
+  QMessageBox box(QMessageBox::NoIcon, QStringLiteral("Abacon"), displayText(text), QMessageBox::Ok);
   // Above the floating window that asked for it.
   box.setWindowFlag(Qt::WindowStaysOnTopHint);
   box.exec();

@@ -48,7 +48,6 @@ class QtDesktop : public QObject, public Desktop {
   Guard guard_;
   std::unordered_map<const Timer*, QTimer*> timers_;
   std::unordered_map<std::string, QSoundEffect*> sounds_;
-  int audioOutputs_ = -1;  // counted at the first sound
 };
 
 }  // namespace platform::qt

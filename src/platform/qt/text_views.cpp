@@ -226,7 +226,7 @@ void TextAreaView::showText() {
   shownModelText_ = text;
   showSelection();
   // A text put in whole is read from its top; the end of a growing one stays in view.
-  if (!append && edit().ReadOnly()) area_->verticalScrollBar()->setValue(0);
+  if (!append) area_->verticalScrollBar()->setValue(0);
 }
 
 void TextAreaView::showSelection() {

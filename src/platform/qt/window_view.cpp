@@ -67,7 +67,10 @@ Qt::WindowFlags flagsFor(const Window& window) {
 }  // namespace
 
 QFont WindowView::layoutFont() {
+  // The layout's pixel positions were drawn for a Helvetica-like face of about 12
+  // pixels; Liberation Sans has its widths, and DejaVu Sans stands in where it is missing.
   QFont font;
+  font.setFamilies({QStringLiteral("Liberation Sans"), QStringLiteral("DejaVu Sans")});
   font.setPixelSize(12);
   return font;
 }
