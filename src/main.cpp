@@ -28,8 +28,13 @@ bool displayReachable() {
 
 int main(int argc, char** argv) {
   if (!displayReachable()) {
+    const char* display = std::getenv("DISPLAY");
+    if (display && *display) {
+      std::fprintf(stderr, "abacon: the display %s cannot be reached.\n", display);
+    } else {
+      std::fputs("abacon: there is no display to open the window on.\n", stderr);
+    }
     std::fputs(
-        "abacon: there is no display to open the window on.\n"
         "Start it from a desktop session, or on a virtual display (Debian package xvfb):\n"
         "  xvfb-run -a abacon\n",
         stderr);

@@ -34,13 +34,13 @@ void Window1::searchPath(const QString& w, DataSet set, Input input) {
   } else {
     clip.Close();
     platform::Listbox& results = set == DataSet::Physical ? *Listbox5 : *Listbox6;
-    const QString r = platform::ReplaceLineEndings(found, EndOfLine());
-    const int n = platform::CountFields(r, EndOfLine());
+    // Split once: line i by NthField would rescan the text from its start, and a
+    // literal search of a large file would never finish filling the list.
+    const QStringList lines =
+        platform::Split(platform::ReplaceLineEndings(found, EndOfLine()), EndOfLine());
     results.DeleteAllRows();
     // The hits start with a line ending, so the list's first row is empty.
-    for (int i = 1; i <= n; ++i) {
-      results.AddRow(platform::LTrim(platform::NthField(r, EndOfLine(), i)));
-    }
+    for (const QString& line : lines) results.AddRow(platform::LTrim(line));
   }
   desktop().beep();
 }

@@ -1,6 +1,6 @@
-#include <gtest/gtest.h>
-
 #include "platform/qt/display_text.h"
+
+#include <gtest/gtest.h>
 
 namespace {
 
@@ -37,7 +37,8 @@ TEST(DisplayText, AUsersEditKeepsTheModelsLineEndsElsewhere) {
   } rows[] = {
       {"typing at the end keeps earlier CRs", "a\rb", "a\nbc", 4, "a\rbc", 4},
       {"typing before a CR LF keeps it whole", "a\r\nb", "ax\nb", 2, "ax\r\nb", 2},
-      {"typing after a CR LF counts it as two model characters", "a\r\nb", "a\nxb", 3, "a\r\nxb", 4},
+      {"typing after a CR LF counts it as two model characters", "a\r\nb", "a\nxb", 3, "a\r\nxb",
+       4},
       {"deleting a break deletes the whole CR LF", "a\r\nb", "ab", 1, "ab", 1},
       {"a new break typed by the user is a LF", "ab\rc", "a\nb\nc", 2, "a\nb\rc", 2},
       {"a text without CR takes the widget's text as it is", "abc", "abxc", 3, "abxc", 3},

@@ -1,6 +1,8 @@
 // The desk accessory itself on the real widgets: launch, drops, the target, the
 // selector, the settings, closing, and faults.
 
+#include "platform/qt/program.h"
+
 #include <gtest/gtest.h>
 
 #include <QApplication>
@@ -24,7 +26,6 @@
 #include "guidance/window2.h"
 #include "platform/files/special_folder.h"
 #include "platform/qt/pictures.h"
-#include "platform/qt/program.h"
 #include "qt_environment.h"
 
 namespace {
@@ -127,7 +128,8 @@ TEST_F(ProgramTest, ATextDroppedOnTheWindowAnswersThroughTheClipboardAndBlinks) 
   launch();
   main().Timer1->setPeriod(5);
   QGuiApplication::clipboard()->setText("before");
-  ASSERT_TRUE(qttest::dropText(&mainView(), qttest::inWindow(widget("ImageWell1"), {31, 31}), "2+3"));
+  ASSERT_TRUE(
+      qttest::dropText(&mainView(), qttest::inWindow(widget("ImageWell1"), {31, 31}), "2+3"));
   EXPECT_EQ(QGuiApplication::clipboard()->text(), "5 ");
   EXPECT_EQ(main().ImageWell1->Image(), "target2");
   const QImage lit = platform::qt::loadPicture(sourceDir() + "/Resources/target2.gif").toImage();
@@ -211,7 +213,8 @@ TEST_F(ProgramTest, ClosingTheMainWindowSavesTheFormulaMemoryAndEndsTheRun) {
   mainView().close();
   EXPECT_TRUE(main().isClosed());
   ASSERT_TRUE(saved.open(QIODevice::ReadOnly));
-  EXPECT_EQ(QString::fromUtf8(saved.readAll()).split('\n', Qt::SkipEmptyParts), (QStringList{"a*2", "b+1"}));
+  EXPECT_EQ(QString::fromUtf8(saved.readAll()).split('\n', Qt::SkipEmptyParts),
+            (QStringList{"a*2", "b+1"}));
   EXPECT_TRUE(program->session().ended());
 }
 

@@ -14,7 +14,9 @@ inline void settle() {
 }
 
 // Where a widget's point lies in its top-level window.
-inline QPoint inWindow(const QWidget* widget, QPoint local) { return widget->mapTo(widget->window(), local); }
+inline QPoint inWindow(const QWidget* widget, QPoint local) {
+  return widget->mapTo(widget->window(), local);
+}
 
 // A text dragged from another application and dropped at `at` of the top-level window:
 // enter, move, then drop, as the window system delivers them. True when the window

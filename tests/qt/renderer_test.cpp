@@ -73,10 +73,10 @@ TEST_F(Renderer, EveryControlStandsAtItsTableGeometryInWindowCoordinates) {
     const char* name;
     QRect rect;
   } rows[] = {
-      {"Field", {10, 10, 100, 22}},     {"Area", {10, 40, 200, 100}},
-      {"Go", {220, 10, 80, 20}},        {"RadioB", {380, 30, 60, 20}},
-      {"Tabs", {10, 200, 280, 240}},    {"OnSecond", {30, 260, 80, 22}},
-      {"Pages", {20, 240, 200, 150}},   {"OnPage1", {40, 300, 80, 20}},
+      {"Field", {10, 10, 100, 22}},   {"Area", {10, 40, 200, 100}},
+      {"Go", {220, 10, 80, 20}},      {"RadioB", {380, 30, 60, 20}},
+      {"Tabs", {10, 200, 280, 240}},  {"OnSecond", {30, 260, 80, 22}},
+      {"Pages", {20, 240, 200, 150}}, {"OnPage1", {40, 300, 80, 20}},
       {"Image", {300, 280, 62, 62}},
   };
   for (const Row& row : rows) {
@@ -168,8 +168,8 @@ TEST_F(Renderer, TypingRaisesKeyDownBeforeEachKeyReachesTheText) {
   field->setFocus();
   window->take();
   QTest::keyClicks(field, "ab");
-  EXPECT_EQ(window->take(), (QStringList{"KeyDown a on \"\"", "TextChange \"a\"", "KeyDown b on \"a\"",
-                                         "TextChange \"ab\""}));
+  EXPECT_EQ(window->take(), (QStringList{"KeyDown a on \"\"", "TextChange \"a\"",
+                                         "KeyDown b on \"a\"", "TextChange \"ab\""}));
   EXPECT_EQ(model<platform::TextField>("Field").Text(), "ab");
 }
 
@@ -188,7 +188,8 @@ TEST_F(Renderer, KeysReachKeyDownAsTheFrameworkNamesThem) {
   QTest::keyClick(field, Qt::Key_Return);
   QTest::keyClick(field, Qt::Key_Backspace);
   QTest::keyClick(field, Qt::Key_C, Qt::ControlModifier);  // a shortcut is no KeyDown
-  EXPECT_EQ(window->take(), (QStringList{"KeyDown \r on \"\"", QStringLiteral("KeyDown ") + QChar(8) + " on \"\""}));
+  EXPECT_EQ(window->take(), (QStringList{"KeyDown \r on \"\"",
+                                         QStringLiteral("KeyDown ") + QChar(8) + " on \"\""}));
 }
 
 TEST_F(Renderer, AUsersEditOfALinedTextKeepsItsCarriageReturns) {
@@ -361,15 +362,19 @@ TEST_F(Renderer, ATextDroppedOnTheBareWindowOrAPictureReachesDropObject) {
   window->Show();
   window->take();
   EXPECT_TRUE(qttest::dropText(view.get(), QPoint(480, 440), "on the window"));
-  EXPECT_TRUE(qttest::dropText(view.get(), qttest::inWindow(view->widgetFor("Image"), {10, 10}), "on the picture"));
-  EXPECT_TRUE(qttest::dropText(view.get(), qttest::inWindow(view->widgetFor("Label"), {5, 5}), "on a label"));
-  EXPECT_EQ(window->take(), (QStringList{"Drop on the window", "Drop on the picture", "Drop on a label"}));
+  EXPECT_TRUE(qttest::dropText(view.get(), qttest::inWindow(view->widgetFor("Image"), {10, 10}),
+                               "on the picture"));
+  EXPECT_TRUE(qttest::dropText(view.get(), qttest::inWindow(view->widgetFor("Label"), {5, 5}),
+                               "on a label"));
+  EXPECT_EQ(window->take(),
+            (QStringList{"Drop on the window", "Drop on the picture", "Drop on a label"}));
 }
 
 TEST_F(Renderer, AnEditableFieldTakesATextDropForItself) {
   window->Show();
   window->take();
-  EXPECT_TRUE(qttest::dropText(view.get(), qttest::inWindow(view->widgetFor("Field"), {5, 5}), "typed"));
+  EXPECT_TRUE(
+      qttest::dropText(view.get(), qttest::inWindow(view->widgetFor("Field"), {5, 5}), "typed"));
   EXPECT_EQ(model<platform::TextField>("Field").Text(), "typed");
   EXPECT_FALSE(window->take().contains("Drop typed"));
 }

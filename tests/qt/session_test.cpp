@@ -1,5 +1,7 @@
 // Session: windows that appear later, the menu bar, and the end of the run.
 
+#include "platform/qt/session.h"
+
 #include <gtest/gtest.h>
 
 #include <QApplication>
@@ -9,7 +11,6 @@
 #include <QTest>
 #include <memory>
 
-#include "platform/qt/session.h"
 #include "qt_environment.h"
 #include "test_window.h"
 

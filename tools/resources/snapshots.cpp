@@ -173,7 +173,8 @@ int marginOf(RegionProbe& probe, const Fit& fit, const Thing& thing) {
   const QPoint c = thing.rect.center();
   int margin = 0;
   while (margin < 8 && hits(probe, fit, thing, c + QPoint(margin + 1, 0)) &&
-         hits(probe, fit, thing, c - QPoint(margin + 1, 0)) && hits(probe, fit, thing, c + QPoint(0, margin + 1)) &&
+         hits(probe, fit, thing, c - QPoint(margin + 1, 0)) &&
+         hits(probe, fit, thing, c + QPoint(0, margin + 1)) &&
          hits(probe, fit, thing, c - QPoint(0, margin + 1))) {
     ++margin;
   }
@@ -216,15 +217,17 @@ std::vector<Thing> thingsOf(const WindowView& view) {
   control("PushButton2", "Back", TextKey::introBack);
   control("PushButton43", "More Instructions", TextKey::introDirections);
   control("PushButton48", "Reset", TextKey::introReset);
-  const TextKey tabTexts[] = {TextKey::introTabSettings, TextKey::introTabHelp,    TextKey::introTabLog,
-                              TextKey::introTabDirections, TextKey::introTabWelcome, TextKey::introTabCalculate,
-                              TextKey::introTabSolve,    TextKey::introTabConvert, TextKey::introTabSearch};
+  const TextKey tabTexts[] = {
+      TextKey::introTabSettings,   TextKey::introTabHelp,    TextKey::introTabLog,
+      TextKey::introTabDirections, TextKey::introTabWelcome, TextKey::introTabCalculate,
+      TextKey::introTabSolve,      TextKey::introTabConvert, TextKey::introTabSearch};
   int next = 0;
   for (const char* panel : {"TabPanel1", "TabPanel2"}) {
     QWidget* widget = view.widgetFor(QString::fromLatin1(panel));
     const QTabBar* bar = widget ? widget->findChild<QTabBar*>() : nullptr;
     for (int tab = 0; bar && tab < bar->count() && next < 9; ++tab, ++next) {
-      things.push_back({"tab " + bar->tabText(tab), windowRect(view, bar, bar->tabRect(tab)), tabTexts[next]});
+      things.push_back(
+          {"tab " + bar->tabText(tab), windowRect(view, bar, bar->tabRect(tab)), tabTexts[next]});
     }
   }
   return things;
@@ -235,7 +238,8 @@ QImage compose(const QImage& window, const Fit& fit) {
   picture.fill(QColor(0xd8, 0xd8, 0xd8));
   QPainter painter(&picture);
   painter.setRenderHint(QPainter::SmoothPixmapTransform);
-  const QRect placed(fit.dx, fit.dy, qRound(window.width() * fit.scale), qRound(window.height() * fit.scale));
+  const QRect placed(fit.dx, fit.dy, qRound(window.width() * fit.scale),
+                     qRound(window.height() * fit.scale));
   // Above the window, where the picture has room, a title bar like the desktop's.
   if (fit.dy > 0) {
     const QRect title(placed.left(), 0, placed.width(), fit.dy);
@@ -281,16 +285,17 @@ bool renderPictures(const QString& dir) {
   RegionProbe probe;
   const std::vector<Thing> things = thingsOf(view);
   const Fit fit = bestFit(probe, things);
-  std::printf("scale %.3f, offset (%d, %d): %d of %zu things fall in their regions\n", fit.scale, fit.dx,
-              fit.dy, fit.hits, things.size());
+  std::printf("scale %.3f, offset (%d, %d): %d of %zu things fall in their regions\n", fit.scale,
+              fit.dx, fit.dy, fit.hits, things.size());
   for (const Thing& thing : things) {
     const QPoint c = mapped(fit, thing.rect.center());
     if (hits(probe, fit, thing, thing.rect.center())) {
-      std::printf("  %-22s centre at (%3d, %3d) in the picture: fits, %d px to spare%s\n", qPrintable(thing.what),
-                  c.x(), c.y(), marginOf(probe, fit, thing), marginOf(probe, fit, thing) == 8 ? " or more" : "");
+      std::printf("  %-22s centre at (%3d, %3d) in the picture: fits, %d px to spare%s\n",
+                  qPrintable(thing.what), c.x(), c.y(), marginOf(probe, fit, thing),
+                  marginOf(probe, fit, thing) == 8 ? " or more" : "");
     } else {
-      std::printf("  %-22s centre at (%3d, %3d) in the picture: MISSES its region\n", qPrintable(thing.what), c.x(),
-                  c.y());
+      std::printf("  %-22s centre at (%3d, %3d) in the picture: MISSES its region\n",
+                  qPrintable(thing.what), c.x(), c.y());
     }
   }
   const QPoint target = mapped(fit, things.size() > 1 ? things[1].rect.center() : QPoint());

@@ -1,6 +1,6 @@
 #include <QCheckBox>
-#include <QPainter>
 #include <QMenu>
+#include <QPainter>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QToolButton>
@@ -61,7 +61,8 @@ void BevelButtonView::rebuildMenu() {
       continue;
     }
     QAction* action = menu_->addAction(captionText(rows[row]));
-    connect(action, &QAction::triggered, this, [this, row] { run([this, row] { button().userChoose(row); }); });
+    connect(action, &QAction::triggered, this,
+            [this, row] { run([this, row] { button().userChoose(row); }); });
   }
   button_->setMenu(rows.isEmpty() ? nullptr : menu_);
   button_->setPopupMode(QToolButton::InstantPopup);
@@ -85,7 +86,8 @@ QWidget* ToggleView::createWidget(QWidget* parent) {
 }
 
 bool ToggleView::value() const {
-  if (control().kind() == ControlKind::RadioButton) return static_cast<RadioButton&>(control()).Value();
+  if (control().kind() == ControlKind::RadioButton)
+    return static_cast<RadioButton&>(control()).Value();
   return static_cast<CheckBox&>(control()).Value();
 }
 
@@ -126,7 +128,8 @@ class FramedBox : public QWidget {
     if (title_.isEmpty()) return;
     const QRect caption(8, 0, metrics.horizontalAdvance(title_) + 6, metrics.height());
     painter.fillRect(caption, palette().window());
-    painter.setPen(palette().color(isEnabled() ? QPalette::Active : QPalette::Disabled, QPalette::WindowText));
+    painter.setPen(
+        palette().color(isEnabled() ? QPalette::Active : QPalette::Disabled, QPalette::WindowText));
     painter.drawText(caption, Qt::AlignCenter, title_);
   }
 

@@ -36,8 +36,8 @@ void ControlView::refreshAll() {
   }
   for (const QString& property : control_.properties().names()) {
     // Parameterised properties (Cell(R,C), List(n)) come with "Rows".
-    if (property == u"Left" || property == u"Top" || property == u"Width" || property == u"Height" ||
-        property == u"Visible" || property == u"Text") {
+    if (property == u"Left" || property == u"Top" || property == u"Width" ||
+        property == u"Height" || property == u"Visible" || property == u"Text") {
       continue;
     }
     refresh(property);
@@ -60,7 +60,8 @@ void ControlView::refresh(const QString& property) {
   } else if (property == u"TextColor") {
     QPalette palette = widget_->palette();
     const QColor color(control_.TextColor());
-    const QPalette defaults = widget_->parentWidget() ? widget_->parentWidget()->palette() : QPalette();
+    const QPalette defaults =
+        widget_->parentWidget() ? widget_->parentWidget()->palette() : QPalette();
     for (QPalette::ColorRole role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText}) {
       palette.setColor(role, color.isValid() ? color : defaults.color(role));
     }
@@ -120,21 +121,35 @@ QString captionText(const QString& caption) {
 
 std::unique_ptr<ControlView> makeControlView(Control& control, const Guard& guard) {
   switch (control.kind()) {
-    case ControlKind::PushButton: return std::make_unique<PushButtonView>(control, guard);
-    case ControlKind::BevelButton: return std::make_unique<BevelButtonView>(control, guard);
+    case ControlKind::PushButton:
+      return std::make_unique<PushButtonView>(control, guard);
+    case ControlKind::BevelButton:
+      return std::make_unique<BevelButtonView>(control, guard);
     case ControlKind::RadioButton:
-    case ControlKind::CheckBox: return std::make_unique<ToggleView>(control, guard);
-    case ControlKind::TextField: return std::make_unique<LineEditView>(control, guard);
-    case ControlKind::TextArea: return std::make_unique<TextAreaView>(control, guard);
-    case ControlKind::StaticText: return std::make_unique<LabelView>(control, guard);
-    case ControlKind::PopupMenu: return std::make_unique<PopupMenuView>(control, guard);
-    case ControlKind::Listbox: return std::make_unique<ListboxView>(control, guard);
-    case ControlKind::TabPanel: return std::make_unique<TabPanelView>(control, guard);
-    case ControlKind::PagePanel: return std::make_unique<PagePanelView>(control, guard);
-    case ControlKind::GroupBox: return std::make_unique<GroupBoxView>(control, guard);
-    case ControlKind::Separator: return std::make_unique<SeparatorView>(control, guard);
-    case ControlKind::ImageWell: return std::make_unique<ImageView>(control, guard);
-    case ControlKind::Timer: return std::make_unique<NoView>(control, guard);
+    case ControlKind::CheckBox:
+      return std::make_unique<ToggleView>(control, guard);
+    case ControlKind::TextField:
+      return std::make_unique<LineEditView>(control, guard);
+    case ControlKind::TextArea:
+      return std::make_unique<TextAreaView>(control, guard);
+    case ControlKind::StaticText:
+      return std::make_unique<LabelView>(control, guard);
+    case ControlKind::PopupMenu:
+      return std::make_unique<PopupMenuView>(control, guard);
+    case ControlKind::Listbox:
+      return std::make_unique<ListboxView>(control, guard);
+    case ControlKind::TabPanel:
+      return std::make_unique<TabPanelView>(control, guard);
+    case ControlKind::PagePanel:
+      return std::make_unique<PagePanelView>(control, guard);
+    case ControlKind::GroupBox:
+      return std::make_unique<GroupBoxView>(control, guard);
+    case ControlKind::Separator:
+      return std::make_unique<SeparatorView>(control, guard);
+    case ControlKind::ImageWell:
+      return std::make_unique<ImageView>(control, guard);
+    case ControlKind::Timer:
+      return std::make_unique<NoView>(control, guard);
   }
   return std::make_unique<NoView>(control, guard);
 }

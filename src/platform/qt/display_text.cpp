@@ -53,7 +53,8 @@ ModelEdit applyDisplayEdit(const QString& model, const QString& edited, int edit
     result.cursor = from + (editedCursor - head);
   } else {
     const int oldPosition = editedCursor - insertedEnd + (oldSize - tail);
-    result.cursor = map[static_cast<size_t>(oldPosition)] - to + from + static_cast<int>(inserted.size());
+    result.cursor =
+        map[static_cast<size_t>(oldPosition)] - to + from + static_cast<int>(inserted.size());
   }
   return result;
 }

@@ -43,7 +43,8 @@ void PopupMenuView::showRows() {
   const int count = menu().ListCount();
   // Rows mostly come one AddRow at a time: keep the rows that are still the same.
   int same = 0;
-  while (same < count && same < combo_->count() && combo_->itemText(same) == displayText(menu().List(same))) {
+  while (same < count && same < combo_->count() &&
+         combo_->itemText(same) == displayText(menu().List(same))) {
     ++same;
   }
   while (combo_->count() > same) combo_->removeItem(combo_->count() - 1);
@@ -93,7 +94,8 @@ void ListboxView::showRows() {
   Applying applying(*this);
   const Listbox& model = list();
   const int columns = model.ColumnCount();
-  const int checkColumn = model.columnType(model.checkColumn()) == ColumnType::CheckBox ? model.checkColumn() : -1;
+  const int checkColumn =
+      model.columnType(model.checkColumn()) == ColumnType::CheckBox ? model.checkColumn() : -1;
   if (table_->columnCount() != columns) {
     table_->setColumnCount(columns);
     shownCells_.clear();
@@ -128,7 +130,8 @@ void ListboxView::showRows() {
     for (int c = 0; c < columns; ++c) {
       auto* item = new QTableWidgetItem(displayText(shownCells_.back()[c]));
       item->setFlags(Qt::ItemIsEnabled | Qt::ItemIsSelectable);
-      if (c == checkColumn) item->setCheckState(shownChecks_.back().front() ? Qt::Checked : Qt::Unchecked);
+      if (c == checkColumn)
+        item->setCheckState(shownChecks_.back().front() ? Qt::Checked : Qt::Unchecked);
       table_->setItem(row, c, item);
     }
   }

@@ -17,8 +17,10 @@ QWidget* PanelView::createWidget(QWidget* parent) {
 void PanelView::ensurePages(int count) const {
   while (static_cast<int>(pages_.size()) < count) {
     auto* page = new QWidget(container_);
-    page->setObjectName(control().Name() + QStringLiteral(".page") + QString::number(pages_.size()));
-    page->setGeometry(0, pagesTop(), control().Width(), std::max(0, control().Height() - pagesTop()));
+    page->setObjectName(control().Name() + QStringLiteral(".page") +
+                        QString::number(pages_.size()));
+    page->setGeometry(0, pagesTop(), control().Width(),
+                      std::max(0, control().Height() - pagesTop()));
     page->setVisible(static_cast<int>(pages_.size()) == panel().Value());
     pages_.emplace_back(page);
   }
@@ -32,7 +34,9 @@ Host PanelView::pageHost(int page) const {
 
 void PanelView::layoutParts() {
   for (const QPointer<QWidget>& page : pages_) {
-    if (page) page->setGeometry(0, pagesTop(), control().Width(), std::max(0, control().Height() - pagesTop()));
+    if (page)
+      page->setGeometry(0, pagesTop(), control().Width(),
+                        std::max(0, control().Height() - pagesTop()));
   }
 }
 
@@ -44,7 +48,8 @@ void PanelView::refresh(const QString& property) {
     }
   } else {
     ControlView::refresh(property);
-    if (property == u"Left" || property == u"Top" || property == u"Width" || property == u"Height") {
+    if (property == u"Left" || property == u"Top" || property == u"Width" ||
+        property == u"Height") {
       layoutParts();
     }
   }
@@ -68,9 +73,7 @@ QWidget* TabPanelView::createWidget(QWidget* parent) {
   return panelWidget;
 }
 
-int TabPanelView::pagesTop() const {
-  return bar_ ? bar_->sizeHint().height() : 0;
-}
+int TabPanelView::pagesTop() const { return bar_ ? bar_->sizeHint().height() : 0; }
 
 void TabPanelView::layoutParts() {
   const int top = pagesTop();

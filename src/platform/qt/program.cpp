@@ -48,7 +48,8 @@ Program::Program() : app_(desktop_) {
   hooks.menu = [this] {
     std::vector<MenuEntry> entries;
     for (const app::MenuItem& item : app_.MenuBar1()) {
-      entries.push_back({item.name, item.text, item.shortcut, item.under, roleOf(item), item.enabled});
+      entries.push_back(
+          {item.name, item.text, item.shortcut, item.under, roleOf(item), item.enabled});
     }
     return entries;
   };

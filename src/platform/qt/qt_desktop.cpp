@@ -30,7 +30,9 @@ bool QtDesktop::clipboardHasText() const {
   return data && data->hasText();
 }
 
-void QtDesktop::setClipboardText(const QString& text) { QGuiApplication::clipboard()->setText(text); }
+void QtDesktop::setClipboardText(const QString& text) {
+  QGuiApplication::clipboard()->setText(text);
+}
 
 void QtDesktop::beep() { QApplication::beep(); }
 
@@ -50,13 +52,16 @@ void QtDesktop::playSound(const Sound& sound) {
 }
 
 void QtDesktop::msgBox(const QString& text) {
-  QMessageBox box(QMessageBox::NoIcon, QStringLiteral("Abacon"), displayText(text), QMessageBox::Ok);
+  QMessageBox box(QMessageBox::NoIcon, QStringLiteral("Abacon"), displayText(text),
+                  QMessageBox::Ok);
   // Above the floating window that asked for it.
   box.setWindowFlag(Qt::WindowStaysOnTopHint);
   box.exec();
 }
 
-void QtDesktop::showURL(const QString& url) { QDesktopServices::openUrl(QUrl(url, QUrl::TolerantMode)); }
+void QtDesktop::showURL(const QString& url) {
+  QDesktopServices::openUrl(QUrl(url, QUrl::TolerantMode));
+}
 
 bool QtDesktop::shiftKey() const {
   return QGuiApplication::queryKeyboardModifiers().testFlag(Qt::ShiftModifier);

@@ -18,9 +18,10 @@ QString shortcutText(const QString& shortcut) {
 
 Session::Session(Hooks hooks) : hooks_(std::move(hooks)) {
   if (!hooks_.guard) hooks_.guard = reportingGuard();
-  connect(qApp, &QGuiApplication::applicationStateChanged, this, [this](Qt::ApplicationState state) {
-    if (state == Qt::ApplicationActive && hooks_.activate) guard()(hooks_.activate);
-  });
+  connect(qApp, &QGuiApplication::applicationStateChanged, this,
+          [this](Qt::ApplicationState state) {
+            if (state == Qt::ApplicationActive && hooks_.activate) guard()(hooks_.activate);
+          });
 }
 
 Session::~Session() {
@@ -100,10 +101,11 @@ std::unique_ptr<QMenu> Session::makeMenu() {
 
 void Session::attachMenu(WindowView& view) {
   view.setContextMenuPolicy(Qt::CustomContextMenu);
-  connect(&view, &QWidget::customContextMenuRequested, this, [this, target = &view](const QPoint& at) {
-    std::unique_ptr<QMenu> menu = makeMenu();
-    menu->exec(target->mapToGlobal(at));
-  });
+  connect(&view, &QWidget::customContextMenuRequested, this,
+          [this, target = &view](const QPoint& at) {
+            std::unique_ptr<QMenu> menu = makeMenu();
+            menu->exec(target->mapToGlobal(at));
+          });
   if (!hooks_.menu) return;
   // The shortcuts work without opening the menu, in every window.
   for (const MenuEntry& item : hooks_.menu()) {
@@ -127,25 +129,49 @@ void Session::perform(MenuRole role) {
   QWidget* focus = QApplication::focusWidget();
   if (auto* line = qobject_cast<QLineEdit*>(focus)) {
     switch (role) {
-      case MenuRole::Undo: line->undo(); break;
-      case MenuRole::Cut: line->cut(); break;
-      case MenuRole::Copy: line->copy(); break;
-      case MenuRole::Paste: line->paste(); break;
-      case MenuRole::Clear: line->del(); break;
-      case MenuRole::SelectAll: line->selectAll(); break;
-      default: break;
+      case MenuRole::Undo:
+        line->undo();
+        break;
+      case MenuRole::Cut:
+        line->cut();
+        break;
+      case MenuRole::Copy:
+        line->copy();
+        break;
+      case MenuRole::Paste:
+        line->paste();
+        break;
+      case MenuRole::Clear:
+        line->del();
+        break;
+      case MenuRole::SelectAll:
+        line->selectAll();
+        break;
+      default:
+        break;
     }
   } else if (auto* area = qobject_cast<QPlainTextEdit*>(focus)) {
     switch (role) {
-      case MenuRole::Undo: area->undo(); break;
-      case MenuRole::Cut: area->cut(); break;
-      case MenuRole::Copy: area->copy(); break;
-      case MenuRole::Paste: area->paste(); break;
+      case MenuRole::Undo:
+        area->undo();
+        break;
+      case MenuRole::Cut:
+        area->cut();
+        break;
+      case MenuRole::Copy:
+        area->copy();
+        break;
+      case MenuRole::Paste:
+        area->paste();
+        break;
       case MenuRole::Clear:
         if (!area->isReadOnly()) area->textCursor().removeSelectedText();
         break;
-      case MenuRole::SelectAll: area->selectAll(); break;
-      default: break;
+      case MenuRole::SelectAll:
+        area->selectAll();
+        break;
+      default:
+        break;
     }
   }
 }

@@ -16,10 +16,13 @@ namespace {
 
 Qt::Alignment horizontal(Alignment alignment) {
   switch (alignment) {
-    case Alignment::Center: return Qt::AlignHCenter;
-    case Alignment::Right: return Qt::AlignRight;
+    case Alignment::Center:
+      return Qt::AlignHCenter;
+    case Alignment::Right:
+      return Qt::AlignRight;
     case Alignment::Default:
-    case Alignment::Left: break;
+    case Alignment::Left:
+      break;
   }
   return Qt::AlignLeft;
 }
@@ -60,21 +63,35 @@ QString TextEditView::keyDownText(const QKeyEvent& event) {
   // Shortcuts belong to the menus and the widget, as they do in the framework.
   if (event.modifiers() & (Qt::ControlModifier | Qt::MetaModifier | Qt::AltModifier)) return {};
   switch (event.key()) {
-    case Qt::Key_Backspace: return QString(QChar(8));
-    case Qt::Key_Tab: return QString(QChar(9));
+    case Qt::Key_Backspace:
+      return QString(QChar(8));
+    case Qt::Key_Tab:
+      return QString(QChar(9));
     case Qt::Key_Return:
-    case Qt::Key_Enter: return QStringLiteral("\r");
-    case Qt::Key_Escape: return QString(QChar(27));
-    case Qt::Key_Left: return QString(QChar(28));
-    case Qt::Key_Right: return QString(QChar(29));
-    case Qt::Key_Up: return QString(QChar(30));
-    case Qt::Key_Down: return QString(QChar(31));
-    case Qt::Key_Delete: return QString(QChar(127));
-    case Qt::Key_Home: return QString(QChar(1));
-    case Qt::Key_End: return QString(QChar(4));
-    case Qt::Key_PageUp: return QString(QChar(11));
-    case Qt::Key_PageDown: return QString(QChar(12));
-    default: break;
+    case Qt::Key_Enter:
+      return QStringLiteral("\r");
+    case Qt::Key_Escape:
+      return QString(QChar(27));
+    case Qt::Key_Left:
+      return QString(QChar(28));
+    case Qt::Key_Right:
+      return QString(QChar(29));
+    case Qt::Key_Up:
+      return QString(QChar(30));
+    case Qt::Key_Down:
+      return QString(QChar(31));
+    case Qt::Key_Delete:
+      return QString(QChar(127));
+    case Qt::Key_Home:
+      return QString(QChar(1));
+    case Qt::Key_End:
+      return QString(QChar(4));
+    case Qt::Key_PageUp:
+      return QString(QChar(11));
+    case Qt::Key_PageDown:
+      return QString(QChar(12));
+    default:
+      break;
   }
   const QString text = event.text();
   if (text.isEmpty() || text.front().unicode() < 0x20) return {};
@@ -109,7 +126,6 @@ void TextEditView::userEdited(const QString& shown, int cursor) {
 
 QWidget* LineEditView::createWidget(QWidget* parent) {
   line_ = new QLineEdit(parent);
-  line_->setFrame(true);
   watchKeys(line_);
   connect(line_, &QLineEdit::textEdited, this, [this](const QString& text) {
     userEdited(text, line_->cursorPosition());
@@ -184,7 +200,7 @@ void TextAreaView::refresh(const QString& property) {
     setBackColor(area_, edit().BackColor());
   } else if (property == u"ScrollbarVertical") {
     area_->setVerticalScrollBarPolicy(edit().ScrollbarVertical() ? Qt::ScrollBarAsNeeded
-                                                                : Qt::ScrollBarAlwaysOff);
+                                                                 : Qt::ScrollBarAlwaysOff);
   } else if (property == u"ScrollbarHorizontal") {
     // Without a horizontal scroll bar the lines wrap at the field's edge.
     const bool scrolls = edit().ScrollbarHorizontal();
@@ -206,9 +222,12 @@ void TextAreaView::showText() {
   if (text == shownModelText_) return;
   Applying applying(*this);
   const qsizetype old = shownModelText_.size();
-  // A CR already shown as a break, followed now by LF, makes one break of the two: that
-  // is no pure append.
-  const bool append = old > 0 && text.size() > old && text.startsWith(shownModelText_) &&
+  // The model says when the change was an append to what is shown, so a long log is not
+  // compared with itself at every line. A CR already shown as a break, followed now by
+  // LF, makes one break of the two: that is no pure append.
+  const bool appendedToShown = edit().appendedFrom() == old;
+  const bool append = old > 0 && text.size() > old &&
+                      (appendedToShown || text.startsWith(shownModelText_)) &&
                       !(shownModelText_.endsWith(u'\r') && text.at(old) == u'\n');
   if (append) {
     const QString tail = text.mid(old);
@@ -219,11 +238,14 @@ void TextAreaView::showText() {
     end.insertText(displayText(tail));
     if (atEnd) bar->setValue(bar->maximum());
     shownHasCR_ = shownHasCR_ || tail.contains(u'\r');
+    // Our own copy grows by the tail. Sharing the model's text instead would make the
+    // model's next append copy the whole log, since shared text is copied on write.
+    shownModelText_.append(tail);
   } else {
     area_->setPlainText(displayText(text));
     shownHasCR_ = text.contains(u'\r');
+    shownModelText_ = text;
   }
-  shownModelText_ = text;
   showSelection();
   // A text put in whole is read from its top; the end of a growing one stays in view.
   if (!append) area_->verticalScrollBar()->setValue(0);

@@ -33,7 +33,8 @@ class WindowView::Surface : public QWidget {
     // The drop handler may open a message box: the dragging application hears that the
     // drop is done first, and the handler runs from the event loop straight after.
     QMetaObject::invokeMethod(
-        &owner_, [owner = &owner_, item] { owner->run([owner, item] { owner->window().userDrop(item); }); },
+        &owner_,
+        [owner = &owner_, item] { owner->run([owner, item] { owner->window().userDrop(item); }); },
         Qt::QueuedConnection);
   }
 
@@ -57,8 +58,8 @@ class WindowView::Surface : public QWidget {
 namespace {
 
 Qt::WindowFlags flagsFor(const Window& window) {
-  const Qt::WindowFlags frame = Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowCloseButtonHint |
-                                Qt::WindowMinimizeButtonHint;
+  const Qt::WindowFlags frame = Qt::CustomizeWindowHint | Qt::WindowTitleHint |
+                                Qt::WindowCloseButtonHint | Qt::WindowMinimizeButtonHint;
   // The desk accessory: a palette that stays above the applications it takes drops from.
   if (!window.Resizeable()) return Qt::Tool | Qt::WindowStaysOnTopHint | frame;
   return Qt::Window | frame;
@@ -77,7 +78,6 @@ QFont WindowView::layoutFont() {
 
 WindowView::WindowView(Window& window, const Guard& guard)
     : QWidget(nullptr, flagsFor(window)), window_(window), guard_(guard) {
-  setAttribute(Qt::WA_DeleteOnClose, false);
   setFont(layoutFont());
   surface_ = new Surface(*this);
   surface_->setObjectName(QStringLiteral("surface"));
@@ -169,7 +169,8 @@ void WindowView::fitSize() {
   const QSize size(window_.Width(), window_.Height());
   if (window_.Resizeable()) {
     setMinimumSize(window_.MinWidth(), window_.MinHeight());
-    setMaximumSize(std::min(window_.MaxWidth(), QWIDGETSIZE_MAX), std::min(window_.MaxHeight(), QWIDGETSIZE_MAX));
+    setMaximumSize(std::min(window_.MaxWidth(), QWIDGETSIZE_MAX),
+                   std::min(window_.MaxHeight(), QWIDGETSIZE_MAX));
     resize(size);
   } else {
     setFixedSize(size);
