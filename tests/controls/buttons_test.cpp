@@ -2,36 +2,35 @@
 
 #include <gtest/gtest.h>
 
-#include <QStringList>
-
 #include "platform/controls/controls.h"
 #include "platform/desktop/recording_desktop.h"
+#include "support/printers.h"
 
 namespace platform {
 namespace {
 
-ControlSpec radio(const QString& name, const QString& group, bool on = false, const QString& panel = {},
-                  int page = 0) {
-  ControlSpec spec{name, ControlKind::RadioButton, name};
-  spec.group = group;
-  spec.panel = panel;
-  spec.page = page;
-  if (on) spec.attributes = {{"Value", true}};
-  return spec;
-}
-
-// Three group boxes' worth of radio buttons, each recording its Action.
+// Two group boxes and a tab panel's pages' worth of radio buttons, each recording its
+// Action; A1, B1, P1 and Q1 start on.
 struct Radios {
   Radios() {
-    for (const ControlSpec& spec : {radio("A1", "G1", true), radio("A2", "G1"), radio("A3", "G1"),
-                                    radio("B1", "G2", true), radio("B2", "G2"),
-                                    radio("P1", "", true, "Tabs", 0), radio("P2", "", false, "Tabs", 0),
-                                    radio("Q1", "", true, "Tabs", 1)}) {
+    const struct {
+      const char* name;
+      const char* group;
+      const char* panel;
+      int page;
+    } made[] = {{"A1", "G1", "", 0}, {"A2", "G1", "", 0},     {"A3", "G1", "", 0},
+                {"B1", "G2", "", 0}, {"B2", "G2", "", 0},     {"P1", "", "Tabs", 0},
+                {"P2", "", "Tabs", 0}, {"Q1", "", "Tabs", 1}};
+    for (const auto& m : made) {
+      ControlSpec spec{m.name, ControlKind::RadioButton, m.name};
+      spec.group = m.group;
+      spec.panel = m.panel;
+      spec.page = m.page;
+      if (QString(m.name).endsWith('1')) spec.attributes = {{"Value", true}};
       auto& r = window.add<RadioButton>(spec);
       r.Action = [this, &r] { actions.append(r.Name()); };
     }
   }
-
   // The names of the buttons that are on, in creation order.
   QString onButtons() const {
     QStringList on;
@@ -40,14 +39,13 @@ struct Radios {
     }
     return on.join(u' ');
   }
-
   RecordingDesktop desktop;
   Window window{desktop};
   QStringList actions;
 };
 
 TEST(RadioButton, TurningOneOnTurnsOffOnlyItsPartners) {
-  enum class How { Code, UserClick };
+  enum class How { Code, CodeOff, UserClick };
   struct Row {
     const char* name;
     const char* target;
@@ -59,54 +57,44 @@ TEST(RadioButton, TurningOneOnTurnsOffOnlyItsPartners) {
       {"a radio turned on by code turns off its group box partner", "A2", How::Code, "A2 B1 P1 Q1", {"A2"}},
       {"a user's click does the same", "A3", How::UserClick, "A3 B1 P1 Q1", {"A3"}},
       {"another group box is left alone", "B2", How::Code, "A1 B2 P1 Q1", {"B2"}},
-      {"radios outside group boxes exclude each other on their page", "P2", How::UserClick, "A1 B1 P2 Q1", {"P2"}},
+      {"radios outside group boxes exclude each other on their page", "P2", How::UserClick,
+       "A1 B1 P2 Q1", {"P2"}},
       {"a radio on another page of the panel is no partner", "Q1", How::Code, "A1 B1 P1 Q1", {}},
       {"clicking the radio already on runs nothing", "A1", How::UserClick, "A1 B1 P1 Q1", {}},
+      {"turning one off from code runs nothing", "A1", How::CodeOff, "B1 P1 Q1", {}},
   };
   for (const Row& row : rows) {
     SCOPED_TRACE(row.name);
     Radios r;
     auto& target = r.window.control<RadioButton>(row.target);
-    if (row.how == How::Code) {
-      target.setValue(true);
-    } else {
+    if (row.how == How::UserClick) {
       target.userClick();
+    } else {
+      target.setValue(row.how == How::Code);
     }
     EXPECT_EQ(r.onButtons(), row.on);
     EXPECT_EQ(r.actions, row.actions);
   }
-}
-
-TEST(RadioButton, TurningOffFromCodeRunsNoAction) {
   Radios r;
-  r.window.control<RadioButton>("A1").setValue(false);
-  EXPECT_EQ(r.onButtons(), "B1 P1 Q1");
-  EXPECT_TRUE(r.actions.isEmpty());
-}
-
-TEST(RadioButton, ActionSeesThePartnerAlreadyOff) {
-  Radios r;
-  auto& a1 = r.window.control<RadioButton>("A1");
-  auto& a2 = r.window.control<RadioButton>("A2");
   bool partnerOnDuringAction = true;
-  a2.Action = [&] { partnerOnDuringAction = a1.Value(); };
-  a2.setValue(true);
-  EXPECT_FALSE(partnerOnDuringAction);
+  auto& a1 = r.window.control<RadioButton>("A1");
+  r.window.control<RadioButton>("A2").Action = [&] { partnerOnDuringAction = a1.Value(); };
+  r.window.control<RadioButton>("A2").setValue(true);
+  EXPECT_FALSE(partnerOnDuringAction) << "Action sees its partner already off";
 }
 
-TEST(PushButton, PushRunsActionEvenDisabledButAUserClickNeedsItEnabled) {
-  enum class How { Push, UserClick };
+TEST(Buttons, PushRunsActionEvenDisabledButAUserNeedsThemEnabled) {
   struct Row {
     const char* name;
     bool enabled;
-    How how;
+    bool push;  // else a user's click
     int runs;
   };
   const Row rows[] = {
-      {"Push on an enabled button runs Action", true, How::Push, 1},
-      {"Push on a disabled button runs Action all the same", false, How::Push, 1},
-      {"a user's click on an enabled button runs Action", true, How::UserClick, 1},
-      {"a user's click on a disabled button does nothing", false, How::UserClick, 0},
+      {"Push on an enabled button runs Action", true, true, 1},
+      {"Push on a disabled button runs Action all the same", false, true, 1},
+      {"a user's click on an enabled button runs Action", true, false, 1},
+      {"a user's click on a disabled button does nothing", false, false, 0},
   };
   for (const Row& row : rows) {
     SCOPED_TRACE(row.name);
@@ -114,28 +102,9 @@ TEST(PushButton, PushRunsActionEvenDisabledButAUserClickNeedsItEnabled) {
     button.setEnabled(row.enabled);
     int runs = 0;
     button.Action = [&] { ++runs; };
-    row.how == How::Push ? button.Push() : button.userClick();
+    row.push ? button.Push() : button.userClick();
     EXPECT_EQ(runs, row.runs);
   }
-}
-
-TEST(PushButton, PushReturnsAfterNestedPushesHaveFinished) {
-  // The "=" key's callers read the answer field straight after the push.
-  PushButton run("PushButton1"), equals("PushButton40");
-  QString answer;
-  run.Action = [&] { answer = "42"; };
-  equals.Action = [&] { run.Push(); };
-  QString seen;
-  PushButton caller("PushButton44");
-  caller.Action = [&] {
-    equals.Push();
-    seen = answer;
-  };
-  caller.Push();
-  EXPECT_EQ(seen, "42");
-}
-
-TEST(CheckBox, UserClickTogglesAndRunsActionEachWay) {
   CheckBox box("CheckBox1");
   QList<bool> seen;
   box.Action = [&] { seen.append(box.Value()); };
@@ -143,39 +112,24 @@ TEST(CheckBox, UserClickTogglesAndRunsActionEachWay) {
   box.userClick();
   box.setEnabled(false);
   box.userClick();
-  EXPECT_EQ(seen, (QList<bool>{true, false}));
+  EXPECT_EQ(seen, (QList<bool>{true, false})) << "a check box toggles and runs Action each way";
 }
 
-class Selector : public ::testing::Test {
- protected:
-  void SetUp() override {
-    for (const char* entry : {"Calculate", "Convert", "Solve"}) selector.AddRow(entry);
-    selector.setCaption("Action");
-    selector.Action = [this] { chosen.append(selector.MenuValue()); };
-  }
-  BevelButton selector{"BevelButton1"};
+TEST(BevelButton, EveryChoiceRunsActionButCodeAndOutOfRangeRunNothing) {
+  BevelButton selector("BevelButton1");
+  for (const char* entry : {"Calculate", "Convert", "Solve"}) selector.AddRow(entry);
+  selector.setCaption("Action");
   QList<int> chosen;
-};
-
-TEST_F(Selector, EveryChoiceRunsActionAlsoForTheEntryShown) {
+  selector.Action = [&] { chosen.append(selector.MenuValue()); };
   selector.userChoose(2);
-  selector.userChoose(2);
-  EXPECT_EQ(chosen, (QList<int>{2, 2}));
-  EXPECT_EQ(selector.Caption(), "Action");  // the caption is the program's to set
-}
-
-TEST_F(Selector, MenuValueFromCodeRunsNothing) {
+  selector.userChoose(2);  // the entry shown counts again
   selector.setMenuValue(1);
-  EXPECT_EQ(selector.MenuValue(), 1);
-  EXPECT_TRUE(chosen.isEmpty());
-}
-
-TEST_F(Selector, EntriesOutsideTheMenuAreOutOfBounds) {
-  EXPECT_EQ(selector.List(1), "Convert");
   EXPECT_THROW(selector.List(3), OutOfBoundsException);
   EXPECT_THROW(selector.setMenuValue(3), OutOfBoundsException);
   EXPECT_THROW(selector.userChoose(-1), OutOfBoundsException);
-  EXPECT_TRUE(chosen.isEmpty());
+  EXPECT_EQ(chosen, (QList<int>{2, 2}));
+  EXPECT_EQ(selector.MenuValue(), 1);
+  EXPECT_EQ(selector.Caption(), "Action") << "the caption is the program's to set";
 }
 
 }  // namespace

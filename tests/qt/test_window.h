@@ -26,50 +26,18 @@ class TestWindow : public platform::Window {
         {"Go", K::PushButton, "Go", 220, 10, 80, 20},
         {"Menu", K::BevelButton, "Pick", 220, 40, 60, 22},
         {"Box", K::GroupBox, "Box", 300, 10, 150, 80},
-        {"RadioA",
-         K::RadioButton,
-         "A",
-         310,
-         30,
-         60,
-         20,
-         {},
-         0,
-         "Box",
-         true,
-         true,
-         {{"Value", true}}},
-        {"RadioB", K::RadioButton, "B", 380, 30, 60, 20, {}, 0, "Box"},
+        {.name = "RadioA", .kind = K::RadioButton, .text = "A", .left = 310, .top = 30, .width = 60,
+         .height = 20, .group = "Box", .attributes = {{"Value", true}}},
+        {.name = "RadioB", .kind = K::RadioButton, .text = "B", .left = 380, .top = 30, .width = 60,
+         .height = 20, .group = "Box"},
         {"Check", K::CheckBox, "Check", 300, 100, 100, 20},
         {"Pop", K::PopupMenu, "red\ngreen\nblue", 300, 130, 100, 20},
-        {"List",
-         K::Listbox,
-         "",
-         300,
-         160,
-         180,
-         100,
-         {},
-         0,
-         {},
-         true,
-         true,
-         {{"ColumnCount", 2}, {"ColumnWidths", "80%,20%"}}},
+        {.name = "List", .kind = K::Listbox, .left = 300, .top = 160, .width = 180, .height = 100,
+         .attributes = {{"ColumnCount", 2}, {"ColumnWidths", "80%,20%"}}},
         {"Tabs", K::TabPanel, "First\nSecond", 10, 200, 280, 240},
         {"OnSecond", K::TextField, "", 30, 260, 80, 22, "Tabs", 1},
-        {"Pages",
-         K::PagePanel,
-         "",
-         20,
-         240,
-         200,
-         150,
-         "Tabs",
-         0,
-         {},
-         true,
-         true,
-         {{"PanelCount", 2}}},
+        {.name = "Pages", .kind = K::PagePanel, .left = 20, .top = 240, .width = 200, .height = 150,
+         .panel = "Tabs", .attributes = {{"PanelCount", 2}}},
         {"OnPage1", K::StaticText, "page one", 40, 300, 80, 20, "Pages", 1},
         {"Image", K::ImageWell, "", 300, 280, 62, 62},
         {"Timer1", K::Timer},
@@ -84,43 +52,30 @@ class TestWindow : public platform::Window {
     field.TextChange = [this, &field] { note("TextChange \"" + field.Text() + "\""); };
     control<platform::PushButton>("Go").Action = [this] { note("Go"); };
     auto& menu = control<platform::BevelButton>("Menu");
-    menu.AddRow("alpha");
-    menu.AddRow("beta");
+    menu.setRows({"alpha", "beta"});
     menu.Action = [this, &menu] { note("Menu " + QString::number(menu.MenuValue())); };
-    for (const char* name : {"RadioA", "RadioB"}) {
-      control<platform::RadioButton>(name).Action = [this, name] {
-        note(QStringLiteral("Action ") + name);
-      };
-    }
     auto& pop = control<platform::PopupMenu>("Pop");
     pop.MouseDown = [this, &pop](int, int) {
-      note("MouseDown Pop on " + pop.Text());
-      return false;
+      return note("MouseDown Pop on " + pop.Text()), false;
     };
     pop.Change = [this, &pop] { note("Change Pop to " + pop.Text()); };
     auto& list = control<platform::Listbox>("List");
     list.setColumnType(1, platform::ColumnType::CheckBox);
-    list.AddRow(QStringList{"first"});
-    list.AddRow(QStringList{"second"});
+    list.setRows({"first", "second"});
     list.Change = [this, &list] { note("Change List to " + QString::number(list.ListIndex())); };
     list.CellClick = [this](int row, int column) {
-      note("CellClick " + QString::number(row) + "," + QString::number(column));
-      return false;
+      return note("CellClick " + QString::number(row) + "," + QString::number(column)), false;
     };
+    list.Close = [this] { note("Close List"); };
     auto& tabs = control<platform::TabPanel>("Tabs");
     tabs.MouseDown = [this](int x, int) {
-      note(x > 0 ? "MouseDown Tabs" : "MouseDown Tabs at 0");
-      return false;
+      return note(x > 0 ? "MouseDown Tabs" : "MouseDown Tabs at 0"), false;
     };
     tabs.MouseUp = [this](int, int) { note("MouseUp Tabs"); };
     tabs.Change = [this, &tabs] { note("Change Tabs to " + QString::number(tabs.Value())); };
-    auto& image = control<platform::ImageWell>("Image");
-    image.MouseDown = [this](int x, int y) {
-      note("MouseDown Image " + QString::number(x) + "," + QString::number(y));
-      return false;
+    control<platform::ImageWell>("Image").MouseDown = [this](int x, int y) {
+      return note("MouseDown Image " + QString::number(x) + "," + QString::number(y)), false;
     };
-    image.MouseExit = [this] { note("MouseExit Image"); };
-    control<platform::Listbox>("List").Close = [this] { note("Close List"); };
     DropObject = [this](const platform::DragItem& item, int) { note("Drop " + item.Text()); };
   }
 

@@ -3,10 +3,8 @@
 #include <gtest/gtest.h>
 
 #include <QStringList>
-#include <ostream>
 
-// Readable failure output for QString comparisons.
-void PrintTo(const QString& text, std::ostream* out) { *out << '"' << text.toStdString() << '"'; }
+#include "support/printers.h"
 
 namespace platform {
 namespace {
@@ -23,12 +21,10 @@ TEST(RegExSearch, SearchWithoutTargetGoesOnInTheFirstText) {
   const Row rows[] = {
       {"5!+15!: the rewrite of 5! spoils 15!, which is still matched in the first text",
        "5!+15!", {"5!", "15!"}, "f5+1f5"},
-      {"15!+5!: both rewritten", "15!+5!", {"15!", "5!"}, "f15+f5"},
       {"a rewrite that shortens the text does not shift the next match", "100!*3!",
        {"100!", "3!"}, "f100*f3"},
       {"2.5! sees only the digits before the mark", "2.5!", {"5!"}, "2.f5"},
       {"a parenthesised factorial is not touched", "(2+3)!", {}, "(2+3)!"},
-      {"no factorial", "1+2", {}, "1+2"},
       {"digits of another script are not \\d", QString::fromUtf8("\u0663!"), {},
        QString::fromUtf8("\u0663!")},
   };
@@ -58,7 +54,6 @@ TEST(RegExSearch, SubExpressions) {
     QStringList groups;  // 0 .. SubExpressionCount - 1
   };
   const Row rows[] = {
-      {"the whole match only", "\\d+!", "x 12! y", {"12!"}},
       {"two groups", "(\\w+)@(\\w+)", "mail me@host now", {"me@host", "me", "host"}},
       {"a group that took no part is empty", "(a)|(b)", "b", {"b", "", "b"}},
       {"nested groups count by their opening", "((\\d)\\d)", "x42", {"42", "42", "4"}},
@@ -79,48 +74,30 @@ TEST(RegExSearch, SubExpressions) {
   }
 }
 
-TEST(RegExSearch, StartsInCharactersAndInUtf8Bytes) {
-  RegEx re;
-  re.SearchPattern = "(x)?(\\d)";
-  const std::optional<RegExMatch> match = re.Search(QString::fromUtf8("\u00e9\u263a7"));
-  ASSERT_TRUE(match.has_value());
-  EXPECT_EQ(match->SubExpressionStart(0), 2);
-  EXPECT_EQ(match->SubExpressionStartB(0), 5);
-  EXPECT_EQ(match->SubExpressionStart(1), -1);
-  EXPECT_EQ(match->SubExpressionStartB(1), -1);
-}
-
 TEST(RegExSearch, OptionsChangeTheMatching) {
   struct Row {
     const char* name;
     QString pattern;
     QString target;
-    RegExOptions options;
+    bool RegExOptions::*option;  // nullptr: the defaults
+    bool value;
     QString match;  // empty: no match
   };
-  RegExOptions caseSensitive;
-  caseSensitive.CaseSensitive = true;
-  RegExOptions lazy;
-  lazy.Greedy = false;
-  RegExOptions oneLine;
-  oneLine.TreatTargetAsOneLine = true;
-  RegExOptions dotAll;
-  dotAll.DotMatchAll = true;
   const Row rows[] = {
-      {"case ignored by default", "moon", "MOON", {}, "MOON"},
-      {"case sensitive when asked", "moon", "MOON", caseSensitive, ""},
-      {"greedy by default", "a.*b", "a1b2b", {}, "a1b2b"},
-      {"lazy when not greedy", "a.*b", "a1b2b", lazy, "a1b"},
-      {"^ matches after a line break by default", "^b", "a\nb", {}, "b"},
-      {"^ only at the start of one line", "^b", "a\nb", oneLine, ""},
-      {"a dot stops at a line break by default", "a.b", "a\nb", {}, ""},
-      {"a dot takes line breaks when asked", "a.b", "a\nb", dotAll, "a\nb"},
+      {"case ignored by default", "moon", "MOON", nullptr, false, "MOON"},
+      {"case sensitive when asked", "moon", "MOON", &RegExOptions::CaseSensitive, true, ""},
+      {"greedy by default", "a.*b", "a1b2b", nullptr, false, "a1b2b"},
+      {"lazy when not greedy", "a.*b", "a1b2b", &RegExOptions::Greedy, false, "a1b"},
+      {"^ matches after a line break by default", "^b", "a\nb", nullptr, false, "b"},
+      {"^ only at the start of one line", "^b", "a\nb", &RegExOptions::TreatTargetAsOneLine, true, ""},
+      {"a dot stops at a line break by default", "a.b", "a\nb", nullptr, false, ""},
+      {"a dot takes line breaks when asked", "a.b", "a\nb", &RegExOptions::DotMatchAll, true, "a\nb"},
   };
   for (const Row& row : rows) {
     SCOPED_TRACE(row.name);
     RegEx re;
     re.SearchPattern = row.pattern;
-    re.Options = row.options;
+    if (row.option) re.Options.*row.option = row.value;
     const std::optional<RegExMatch> match = re.Search(row.target);
     EXPECT_EQ(match ? match->SubExpressionString(0) : QString(), row.match);
   }
@@ -134,16 +111,6 @@ TEST(RegExSearch, EmptyMatchesStillMoveOn) {
     seen << QString::number(m->SubExpressionStart(0)) + ":" + m->SubExpressionString(0);
   }
   EXPECT_EQ(seen, QStringList({"0:", "1:x", "2:", "3:"}));
-}
-
-TEST(RegExSearch, NothingToFind) {
-  RegEx re;
-  re.SearchPattern = "z";
-  EXPECT_FALSE(re.Search().has_value());
-  EXPECT_FALSE(re.Search("abc").has_value());
-  EXPECT_FALSE(re.Search().has_value());
-  EXPECT_TRUE(re.Search("z").has_value());
-  EXPECT_FALSE(re.Search().has_value());
 }
 
 TEST(RegExSearch, ABadPatternRaisesRegExException) {
@@ -174,22 +141,16 @@ TEST(RegExReplace, ReplacesTheFirstMatchUnlessAllAreAsked) {
     QString expected;
   };
   const Row rows[] = {
-      {"first match only", "a", "x", "banana", false, "bxnana"},
       {"every match when asked", "a", "x", "banana", true, "bxnxnx"},
-      {"no match leaves the text", "^an ", "", "ant hill", false, "ant hill"},
-      {"a leading noise word goes", "^the ", "", "the radius of the moon", false,
-       "radius of the moon"},
       {"only one leading noise word goes", "^the ", "", "the the moon", false, "the moon"},
       {"case does not matter", "^the ", "", "The Moon", false, "Moon"},
       {"a leading a leaves the second blank", "^a ", "", "a  b", false, " b"},
       {"groups by backslash", "(\\w+)@(\\w+)", "\\2 at \\1", "me@host", false, "host at me"},
-      {"groups by dollar", "(\\w+)@(\\w+)", "$2-$1", "me@host", false, "host-me"},
       {"the whole match", "\\d+", "<\\0>", "a12b", false, "a<12>b"},
       {"a group the pattern lacks puts in nothing", "(\\d)", "[\\1\\7]", "a1", false, "a[1]"},
       {"a doubled backslash is one", "b", "\\\\", "abc", false, "a\\c"},
       {"other characters stand as written", "b", "\\n$x", "abc", false, "a\\n$xc"},
       {"an empty match at the start inserts", "", "-", "ab", false, "-ab"},
-      {"empty matches everywhere", "", "-", "ab", true, "-a-b-"},
       {"all matches with groups", "(\\d)", "<$1>", "1a2", true, "<1>a<2>"},
   };
   for (const Row& row : rows) {

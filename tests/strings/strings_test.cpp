@@ -30,9 +30,7 @@ TEST(StrEq, IgnoresCaseOnly) {
         {"ascii case ignored", "Calculate", "calculate", true},
         {"A with ring equals a with ring", kAring, kaRing, true},
         {"greek case ignored", QString::fromUtf8("ΣΟΦΙΑ"), QString::fromUtf8("σοφια"), true},
-        {"different letters differ", "convert", "convers", false},
         {"prefix is not equal", "calc", "calculate", false},
-        {"blank matters", "a b", "ab", false},
         {"empty equals empty", "", "", true},
     };
     for (const Row& row : rows) {
@@ -47,18 +45,12 @@ TEST(InStr, FindsFromOneIgnoringCase) {
     const Row rows[] = {
         {"first occurrence from 1", 0, "abcabc", "c", 3},
         {"case ignored", 0, "sin(30)+Asin(1)", "ASIN(", 9},
-        {"PI catches pi", 0, "2*pi", "PI", 3},
         {"absent gives 0", 0, "abc", "x", 0},
         {"empty find gives 0", 0, "abc", "", 0},
-        {"empty source gives 0", 0, "", "a", 0},
         {"start 1 is the beginning", 1, "abcabc", "a", 1},
         {"start skips earlier hits", 2, "abcabc", "a", 4},
-        {"start on the hit finds it", 4, "abcabc", "a", 4},
         {"start negative is the beginning", -5, "abc", "b", 2},
-        {"start at the last character", 3, "abc", "c", 3},
         {"start beyond the end gives 0", 4, "abc", "c", 0},
-        {"start far beyond gives 0", 1000, "abc", "a", 0},
-        {"find longer than source", 0, "ab", "abc", 0},
         {"non-BMP character counts once", 0, kEmoji + "x", "x", 2},
         {"start counts code points", 2, kEmoji + "x" + kEmoji + "x", "x", 2},
         {"start after non-BMP character", 3, kEmoji + "x" + kEmoji + "x", "x", 4},
@@ -76,16 +68,11 @@ TEST(ReplaceAll, OnePassLeftToRightIgnoringCase) {
     struct Row { const char* name; QString source, old, repl, expected; };
     const Row rows[] = {
         {"every case variant replaced", "aXbx", "x", "-", "a-b-"},
-        {"replacement goes in as given", "Pi*pi", "PI", "3.14", "3.14*3.14"},
         {"empty replacement deletes", "1 000 000", " ", "", "1000000"},
         {"empty old leaves the text", "abc", "", "x", "abc"},
-        {"absent old leaves the text", "abc", "z", "x", "abc"},
         {"replacement not rescanned", "aa", "a", "aa", "aaaa"},
         {"non-overlapping left to right", "aaa", "aa", "b", "ba"},
-        {"replacement containing old", "sin(x)", "sin(", "sin((PI/180)*", "sin((PI/180)*x)"},
         {"5! also hits the tail of 15!", "5!+15!", "5!", "120", "120+1120"},
-        {"whole text replaced", "abc", "ABC", "", ""},
-        {"purge of em dash", QString("3") + QChar(8212) + "1", QString(QChar(8212)), "-", "3-1"},
         {"A with ring matches its lower case", "2" + kaRing + "3", kAring, "x", "2x3"},
         {"multi-character old", "2x10x106", "x10", "e", "2ee6"},
     };
@@ -99,14 +86,12 @@ TEST(Fields, SeparatorOfAnyLength) {
     struct Row { const char* name; QString source, sep; int count; QStringList fields; };
     const Row rows[] = {
         {"trailing separator gives an empty last field", "a;b;", ";", 3, {"a", "b", ""}},
-        {"no separator is one field", "abc", ";", 1, {"abc"}},
         {"empty text is one empty field", "", ";", 1, {""}},
         {"adjacent separators give empty fields", ";;", ";", 3, {"", "", ""}},
         {"long separator", "a<->b<->c", "<->", 3, {"a", "b", "c"}},
         {"separator case ignored", "1X2x3", "x", 3, {"1", "2", "3"}},
         {"overlapping separators taken left to right", "aaaa", "aa", 3, {"", "", ""}},
         {"empty separator: whole text is the field", "a;b", "", 1, {"a;b"}},
-        {"blank separator", "x zz", " ", 2, {"x", "zz"}},
     };
     for (const Row& row : rows) {
         SCOPED_TRACE(row.name);
@@ -125,41 +110,20 @@ TEST(Fields, SeparatorOfAnyLength) {
 
 // ---- numbers as text ----------------------------------------------------------
 
-TEST(Str, Int32) {
-    struct Row { const char* name; std::int32_t value; QString expected; };
-    const Row rows[] = {
-        {"zero", 0, "0"},
-        {"positive", 479001600, "479001600"},
-        {"negative", -288522240, "-288522240"},
-        {"minimum", std::numeric_limits<std::int32_t>::min(), "-2147483648"},
-        {"maximum", std::numeric_limits<std::int32_t>::max(), "2147483647"},
-    };
-    for (const Row& row : rows) {
-        SCOPED_TRACE(row.name);
-        EXPECT_EQ(Str(row.value), row.expected);
-    }
-}
-
 TEST(Str, DoubleSevenSignificantDigits) {
     struct Row { const char* name; double value; QString expected; };
     const Row rows[] = {
         {"whole number has no point", 200.0, "200"},
-        {"half", 2.5, "2.5"},
         {"third cut to 7 digits", 1.0 / 3.0, "0.3333333"},
         {"rounded to 7 digits", 1234567.89, "1234568"},
-        {"largest plain form", 9999999.0, "9999999"},
         {"rounding up to 8 digits takes the exponent", 99999995.0, "1e+8"},
         {"eight digits take the exponent", 12345678.0, "1.234568e+7"},
-        {"ten million", 1e7, "1e+7"},
         {"smallest plain form", 0.0001, "0.0001"},
         {"below 1e-4 takes the exponent", 0.00001, "1e-5"},
         {"three-digit exponent", 1e100, "1e+100"},
         {"tiny negative", -1.5e-300, "-1.5e-300"},
-        {"negative", -2.5, "-2.5"},
-        {"zero", 0.0, "0"},
         {"negative zero writes 0", -0.0, "0"},
         {"trailing zeros dropped", 0.1 + 0.2, "0.3"},
-        {"pi", 3.14159265358979, "3.141593"},
         {"infinity", kInf, "INF"},
         {"minus infinity", -kInf, "-INF"},
         {"not a number", kNaN, "NAN"},
@@ -218,60 +182,32 @@ TEST(Format, Masks) {
     struct Row { const char* name; double value; QString mask; QString expected; };
     const Row rows[] = {
         // the Scientific mask of the runner
-        {"fmt: whole number", 200, kFmt, "2.0e+2"},
-        {"fmt: zero", 0, kFmt, "0.0e+0"},
         {"fmt: fifteen digits", 2.00000008333861, kFmt, "2.00000008333861e+0"},
-        {"fmt: third", 1.0 / 3.0, kFmt, "3.33333333333333e-1"},
-        {"fmt: negative", -1234.5, kFmt, "-1.2345e+3"},
         {"fmt: exponent grows past the mask", 1e-300, kFmt, "1.0e-300"},
         {"fmt: rounding at 15 digits", 0.1 + 0.2, kFmt, "3.0e-1"},
-        {"fmt: one", 1, kFmt, "1.0e+0"},
         {"fmt: rounding carries into the exponent", 9.9999999999999999e5, kFmt, "1.0e+6"},
-        {"fmt: largest double", 1.7976931348623157e308, kFmt, "1.79769313486232e+308"},
         {"fmt: subnormal", 4.9406564584124654e-324, kFmt, "4.94065645841247e-324"},
-        {"fmt: 16 digits rounded", 1234567890123456.0, kFmt, "1.23456789012346e+15"},
-        // exponent signs and widths
-        {"e- writes no plus", 200, "0.0e-0", "2.0e2"},
         {"e- writes a minus", 0.02, "0.0e-0", "2.0e-2"},
         {"exponent zeros pad", 200, "0.00E+000", "2.00E+002"},
+        {"thousands", 1234567.891, "#,##0.00", "1,234,567.89"},
+        {"percent", 0.256, "0.0%", "25.6%"},
+        {"rounding carries to the integer", 9.996, "0.00", "10.00"},
+        {"negative rounding to zero has no sign", -0.001, "0.00", "0.00"},
+        {"backslash escapes a place", 5, "\\#0", "#5"},
+        {"empty mask is Str", 2.5, "", "2.5"},
         {"two integer places", 200, "00.0e+0", "20.0e+1"},
         {"no integer place", 200, ".00e+0", ".20e+3"},
         {"e followed by a letter is literal", 5, "0 sec", "5 sec"},
-        // fixed masks
-        {"thousands", 1234567.891, "#,##0.00", "1,234,567.89"},
-        {"thousands under 1000", 12.5, "#,##0.00", "12.50"},
-        {"thousands of a negative", -1234567.0, "#,##0", "-1,234,567"},
-        {"percent", 0.256, "0.0%", "25.6%"},
-        {"two places", 3.14159, "0.00", "3.14"},
-        {"single hash", 5, "#", "5"},
-        {"more digits than places", 12345, "#", "12345"},
-        {"zeros pad the integer", 7, "000", "007"},
         {"hash before zero pads to the zero", 7, "#00", "07"},
         {"optional fraction dropped with the point", 5, "0.##", "5"},
-        {"optional fraction kept", 5.25, "0.##", "5.25"},
         {"rounding half up", 2.675, "0.00", "2.68"},
-        {"rounding carries to the integer", 9.996, "0.00", "10.00"},
-        {"tiny value rounds to zero", 0.004, "0.00", "0.00"},
-        {"tiny value rounds up", 0.006, "0.00", "0.01"},
-        {"negative rounding to zero has no sign", -0.001, "0.00", "0.00"},
         {"hash integer of a fraction", 0.5, "#.##", ".5"},
-        {"no integer place keeps the integer digits", 1.5, ".00", "1.50"},
         {"fifteen digits then zeros", 1234567890123456789.0, "0", "1234567890123460000"},
-        {"large value in fixed form", 1e20, "#,##0", "100,000,000,000,000,000,000"},
-        // signs and literals
         {"plus writes the sign", 5, "+0", "+5"},
-        {"plus writes a minus", -5, "+0", "-5"},
         {"minus is a literal", 5551234, "###-####", "555-1234"},
-        {"backslash escapes a place", 5, "\\#0", "#5"},
-        {"literals kept", 3.5, "$0.00 kg", "$3.50 kg"},
         {"negative gets a minus in front", -3.5, "$0.0", "-$3.5"},
-        {"empty mask is Str", 2.5, "", "2.5"},
-        {"mask without places writes literals", 5, "abc", "abc"},
         {"trailing backslash ignored", 5, "0\\", "5"},
-        // non-finite
         {"infinity", kInf, kFmt, "INF"},
-        {"minus infinity", -kInf, "0.00", "-INF"},
-        {"not a number", kNaN, "#,##0", "NAN"},
         {"percent overflows to infinity", 1.7e308, "0%", "INF"},
     };
     for (const Row& row : rows) {
@@ -293,46 +229,24 @@ TEST(Val, NumberAtTheStart) {
     const Row rows[] = {
         {"factorial mark stops the number", "5!", 5},
         {"unit stops the number", "5km", 5},
-        {"fraction before a mark", "2.5!", 2.5},
         {"e without digits is not taken", "1e", 1},
-        {"e with sign but no digits is not taken", "1e+", 1},
         {"exponent with sign", "1.5e+3x", 1500},
-        {"negative exponent", "25E-1", 2.5},
         {"leading point", "-.5", -0.5},
-        {"trailing point", "5.", 5},
-        {"plus sign", "+7", 7},
         {"second point stops", "1.2.3", 1.2},
-        {"second sign stops", "1-2", 1},
-        {"letters give 0", "abc", 0},
-        {"empty gives 0", "", 0},
-        {"lone point gives 0", ".", 0},
-        {"lone sign gives 0", "-", 0},
         {"blanks and tabs skipped", " \t 42", 42},
         {"blank after sign stops", "- 5", 0},
         {"comma stops", "1,000", 1},
         {"Str's exponent form", "1.234568e+7", 12345680},
-        {"long literal of pi", "3.1415926535897932384626433832795", 3.141592653589793},
         {"huge literal overflows", "1e400", kInf},
-        {"huge negative literal", "-1e400", -kInf},
         {"tiny literal underflows", "1e-400", 0},
         {"many digits overflow", "1" + QString(400, u'0'), kInf},
-        {"many leading zeros underflow", "0." + QString(400, u'0') + "1", 0},
         {"exponent digits beyond any range", "1e99999999999999999999999", kInf},
-        {"subnormal", "4.9406564584124654e-324", 4.9406564584124654e-324},
-        {"hex", "&hFF", 255},
-        {"hex lower case", "&hff", 255},
         {"hex prefix upper case", "&HfF", 255},
-        {"hex stops at non-digit", "&h1G", 1},
         {"hex all ones is -1", "&hFFFFFFFF", -1},
         {"hex keeps the low 32 bits", "&h1FFFFFFFF", -1},
         {"hex of the sign bit", "&h80000000", -2147483648.0},
-        {"octal", "&o777", 511},
-        {"octal stops at 8", "&o78", 7},
-        {"binary", "&b1011", 11},
-        {"binary stops at 2", "&b102", 2},
         {"prefix without digits", "&h", 0},
         {"unknown prefix", "&x12", 0},
-        {"ampersand alone", "&", 0},
         {"full-width digit is no digit", QString(QChar(0xFF15)), 0},
     };
     for (const Row& row : rows) {
@@ -379,15 +293,9 @@ TEST(Bases, ThirtyTwoBitTwosComplement) {
 }
 
 TEST(Round, HalfAwayFromZero) {
-    struct Row { const char* name; double value, expected; };
-    const Row rows[] = {
-        {"half up", 2.5, 3},       {"negative half down", -2.5, -3}, {"below half", 2.4999, 2},
-        {"half of an odd", 3.5, 4}, {"whole stays", -7, -7},        {"small negative", -0.4, -0.0},
-    };
-    for (const Row& row : rows) {
-        SCOPED_TRACE(row.name);
-        EXPECT_EQ(Round(row.value), row.expected);
-    }
+    EXPECT_EQ(Round(2.5), 3);
+    EXPECT_EQ(Round(-2.5), -3);
+    EXPECT_EQ(Round(2.4999), 2);
     EXPECT_TRUE(std::isnan(Round(kNaN)));
 }
 
@@ -397,17 +305,13 @@ TEST(ToInt32, TruncatesOrGivesMinimum) {
     const Row rows[] = {
         {"fraction dropped", 5.9, 5},
         {"toward zero for negatives", -5.9, -5},
-        {"largest", 2147483647.0, 2147483647},
         {"largest with fraction", 2147483647.9, 2147483647},
         {"just above the range", 2147483648.0, kMin},
-        {"smallest", -2147483648.0, kMin},
         {"below smallest truncates into range", -2147483648.9, kMin},
         {"just below the range", -2147483649.0, kMin},
         {"huge", 1e300, kMin},
         {"infinity", kInf, kMin},
-        {"minus infinity", -kInf, kMin},
         {"not a number", kNaN, kMin},
-        {"digits of 2000000000!", 2000000000.0, 2000000000},
     };
     for (const Row& row : rows) {
         SCOPED_TRACE(row.name);
@@ -423,8 +327,6 @@ TEST(Trim, WhiteSpaceIncludingTabsAndLineEndings) {
         {"blanks", "  a b  ", "a b  ", "  a b", "a b"},
         {"tabs and line endings", "\t\r\na\t\n", "a\t\n", "\t\r\na", "a"},
         {"only white space", " \t ", "", "", ""},
-        {"nothing to trim", "ab", "ab", "ab", "ab"},
-        {"empty", "", "", "", ""},
     };
     for (const Row& row : rows) {
         SCOPED_TRACE(row.name);
@@ -438,22 +340,12 @@ TEST(Substrings, ByCharacters) {
     const QString mixed = "a" + kEmoji + "bc";  // four characters, five UTF-16 units
     struct Row { const char* name; QString got, expected; };
     const Row rows[] = {
-        {"Left", Left("abcdef", 3), "abc"},
-        {"Left zero", Left("abc", 0), ""},
         {"Left negative", Left("abc", -2), ""},
         {"Left beyond", Left("abc", 10), "abc"},
         {"Left keeps a non-BMP character whole", Left(mixed, 2), "a" + kEmoji},
-        {"Right", Right("abcdef", 2), "ef"},
-        {"Right zero", Right("abc", 0), ""},
-        {"Right beyond", Right("abc", 10), "abc"},
         {"Right keeps a non-BMP character whole", Right(mixed, 3), kEmoji + "bc"},
-        {"Mid from 1", Mid("abcdef", 1), "abcdef"},
-        {"Mid to the end", Mid("abcdef", 3), "cdef"},
         {"Mid start below 1", Mid("abc", 0), "abc"},
-        {"Mid start beyond", Mid("abc", 5), ""},
         {"Mid with length", Mid("abcdef", 2, 3), "bcd"},
-        {"Mid length beyond", Mid("abcdef", 5, 10), "ef"},
-        {"Mid zero length", Mid("abcdef", 2, 0), ""},
         {"Mid negative length", Mid("abcdef", 2, -1), ""},
         {"Mid after non-BMP", Mid(mixed, 3), "bc"},
         {"Mid of non-BMP", Mid(mixed, 2, 1), kEmoji},
@@ -471,20 +363,12 @@ TEST(Characters, CaseChrAndLineEndings) {
     struct Row { const char* name; QString got, expected; };
     const Row rows[] = {
         {"Lowercase", Lowercase("Calculate " + kAring), "calculate " + kaRing},
-        {"Uppercase", Uppercase("log(x)"), "LOG(X)"},
-        {"Chr em dash", Chr(8212), QString(QChar(0x2014))},
-        {"Chr tab", Chr(9), "\t"},
-        {"Chr A with ring", Chr(197), kAring},
-        {"Chr multiplication sign", Chr(215), QString(QChar(0x00D7))},
         {"Chr beyond the BMP", Chr(0x1F600), kEmoji},
         {"Chr of a surrogate", Chr(0xD800), QString(QChar(0xFFFD))},
         {"Chr beyond Unicode", Chr(0x110000), QString(QChar(0xFFFD))},
-        {"EndOfLine", EndOfLine(), "\n"},
         {"all line endings replaced", ReplaceLineEndings("a\r\nb\rc\nd", "|"), "a|b|c|d"},
         {"LF CR is two endings", ReplaceLineEndings("a\n\rb", "|"), "a||b"},
         {"CR CR LF", ReplaceLineEndings("a\r\r\nb", "\n"), "a\n\nb"},
-        {"longer ending", ReplaceLineEndings("a\nb\n", "\r\n"), "a\r\nb\r\n"},
-        {"no endings", ReplaceLineEndings("abc", "\n"), "abc"},
     };
     for (const Row& row : rows) {
         SCOPED_TRACE(row.name);
@@ -497,9 +381,7 @@ TEST(Sort, AscendingIgnoringCaseDeterministic) {
     const Row rows[] = {
         {"case ignored", {"beta", "Alpha", "gamma"}, {"Alpha", "beta", "gamma"}},
         {"equal but case: fixed order", {"abc", "ABC", "Abc"}, {"ABC", "Abc", "abc"}},
-        {"same, other input order", {"Abc", "abc", "ABC"}, {"ABC", "Abc", "abc"}},
         {"prefix first", {"ab", "a"}, {"a", "ab"}},
-        {"empty list", {}, {}},
     };
     for (const Row& row : rows) {
         SCOPED_TRACE(row.name);

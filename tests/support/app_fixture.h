@@ -52,6 +52,13 @@ class AppFixture : public ::testing::Test {
     return added.isEmpty() ? QStringList() : added.split('\n');
   }
 
+  // A text dropped on the window by a user.
+  void drop(const QString& text) { window->userDrop(platform::DragItem{text}); }
+  // The target lit, with the timer that puts it out running.
+  bool blinking() const {
+    return window->ImageWell1->Image() == "target2" && window->Timer1->Mode() != 0;
+  }
+
   // Writes a file under the home folder, making folders as needed.
   void writeFile(const QString& relative, const QString& text) {
     const QString path = home.path() + "/" + relative;

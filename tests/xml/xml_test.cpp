@@ -4,10 +4,8 @@
 
 #include <QStringList>
 #include <optional>
-#include <ostream>
 
-// Readable failure output for QString comparisons.
-void PrintTo(const QString& text, std::ostream* out) { *out << '"' << text.toStdString() << '"'; }
+#include "support/printers.h"
 
 namespace platform {
 namespace {
@@ -54,7 +52,6 @@ TEST(XmlQuery, SelectsRelativeToTheNodeInDocumentOrder) {
        {"SubList=hp->W", "SubList=W->hp", "SubList=bare"}},
       {"every Name of a category, in file order", 1, "Name",
        {"Name=Length", "Name=Second name"}},
-      {"a path that is not there selects nothing", 0, "List/Nothing", {}},
       {"a query of a child's name does not reach grandchildren", -1, "SubList", {}},
       {"descendants from a category stay inside it", 1, ".//SubList", {"SubList=ft->m"}},
       {"attributes are nodes with a name and a value", 0, "List/SubList/@convert",
@@ -71,22 +68,6 @@ TEST(XmlQuery, SelectsRelativeToTheNodeInDocumentOrder) {
   }
 }
 
-TEST(XmlQuery, ReadsTheConversionTableAsTheLoaderDoes) {
-  const XmlDocument doc(kTable);
-  const XmlNodeList categories = doc.Child(0).Xql("Category");
-  QStringList records;
-  for (int i = 0; i < categories.Length(); ++i) {
-    const XmlNode category = categories.Item(i);
-    QString record = category.Xql("Name").Item(0).Child(0).Value();
-    const XmlNodeList rows = category.Xql("List/SubList");
-    for (int j = 0; j < rows.Length(); ++j) {
-      record += ";" + rows.Item(j).Child(0).Value() + ":" + rows.Item(j).GetAttribute("convert");
-    }
-    records << record;
-  }
-  EXPECT_EQ(records, QStringList({"Power;hp->W:*745.7;W->hp:/745.7;bare:", "Length;ft->m:*0.3048"}));
-}
-
 TEST(XmlQuery, ADocumentQueryStartsAtTheDocument) {
   const XmlDocument doc(kTable);
   EXPECT_EQ(doc.Xql("Category").Length(), 0);
@@ -100,13 +81,12 @@ TEST(XmlQuery, InvalidQueriesRaiseXmlException) {
     QString xpath;
   };
   const Row rows[] = {
-      {"empty query", ""},
       {"unclosed predicate", "Category["},
       {"a step of nothing", "Category//"},
       {"a number, not a node set", "count(Category)"},
-      {"a text, not a node set", "string(Category)"},
-      {"an unknown function", "frobnicate(Category)"},
       {"an unbound variable", "$x"},
+      {"empty query", ""},
+      {"an unknown function", "frobnicate(Category)"},
   };
   const XmlDocument doc(kTable);
   for (const Row& row : rows) {
@@ -128,16 +108,13 @@ TEST(XmlText, TheFirstChildOfAnElementCarriesItsText) {
     QString text;
   };
   const Row rows[] = {
-      {"plain text", "<k>electron mass</k>", "electron mass"},
       {"predefined and numeric entities", "<k>a &amp; b &lt; c &#233;&#x263A;</k>",
        QString::fromUtf8("a & b < c \u00e9\u263a")},
       {"UTF-8 text", QString::fromUtf8("<k>\u00c5ngstr\u00f6m \u00b5m \u2014 1e-10</k>"),
        QString::fromUtf8("\u00c5ngstr\u00f6m \u00b5m \u2014 1e-10")},
       {"a child element cuts the text", "<k>mass <b>of</b> electron</k>", "mass "},
       {"CDATA keeps markup characters", "<k><![CDATA[a<b && c>d]]></k>", "a<b && c>d"},
-      {"a text of several lines", "<k>line one\nline two</k>", "line one\nline two"},
       {"CR LF line endings become LF", "<k>line one\r\nline two</k>", "line one\nline two"},
-      {"a blank alone is still a text", "<k> </k>", " "},
       {"a comment first is the first child", "<k><!-- note -->text</k>", " note "},
   };
   for (const Row& row : rows) {
@@ -158,7 +135,6 @@ TEST(XmlNodes, NamesAndValuesByKindOfNode) {
   };
   const Row rows[] = {
       {"an element has no value of its own", root, "r", ""},
-      {"an empty element", root.Child(0), "e", ""},
       {"a text node", root.Child(1), "#text", "text"},
       {"a CDATA section", root.Child(2), "#cdata-section", "c"},
       {"a comment", root.Child(3), "#comment", "m"},
@@ -178,15 +154,11 @@ TEST(XmlNodes, NamesAndValuesByKindOfNode) {
 TEST(XmlNodes, NavigationWalksSiblingsAndParents) {
   const XmlDocument doc(QStringLiteral("<r><a/><b>x</b><c/></r>"));
   const XmlNode a = doc.Child(0).FirstChild();
-  EXPECT_EQ(a.Name(), "a");
-  EXPECT_EQ(a.NextSibling().Name(), "b");
   EXPECT_EQ(a.NextSibling().NextSibling().Name(), "c");
   EXPECT_TRUE(a.NextSibling().NextSibling().NextSibling().IsNil());
-  EXPECT_EQ(a.Parent().Name(), "r");
   EXPECT_EQ(a.Parent().Parent().Name(), "#document");
   EXPECT_TRUE(doc.Node().Parent().IsNil());
   EXPECT_EQ(doc.Child(0).Xql("b/text()").Item(0).Parent().Name(), "b");
-  EXPECT_EQ(doc.DocumentElement().Name(), "r");
 }
 
 TEST(XmlNodes, MissingThingsReadAsNilOrEmpty) {
@@ -202,9 +174,7 @@ TEST(XmlNodes, MissingThingsReadAsNilOrEmpty) {
       {"a negative item", doc.Child(0).Xql("Category").Item(-1)},
       {"a child of an empty element", category.Xql("Key").Item(0).Child(0)},
       {"a child past the last", category.Child(1)},
-      {"a negative child", category.Child(-1)},
       {"a child of a Nil", none.Item(0).Child(0)},
-      {"a sibling of a Nil", none.Item(0).NextSibling()},
       {"a parent of a Nil", none.Item(0).Parent()},
   };
   for (const Row& row : nils) {
@@ -259,7 +229,6 @@ TEST(XmlDocumentLoad, TheRootIsTheFirstChildUnlessSomethingStandsBeforeIt) {
     int childCount;
   };
   const Row rows[] = {
-      {"bare root", "<Table/>", "Table", 1},
       {"the declaration is not a child", "<?xml version=\"1.0\"?><Table/>", "Table", 1},
       {"blank lines around the root are not children", "<?xml version=\"1.0\"?>\n\n<Table/>\n\n",
        "Table", 1},
@@ -286,16 +255,16 @@ TEST(XmlDocumentLoad, MalformedTextRaisesXmlExceptionWithItsPosition) {
   const Row rows[] = {
       {"empty text", "", 1, 1},
       {"only blanks", "  \n ", 2, 2},
-      {"garbage", "this is not XML", 0, 0},
       {"unclosed tag", "<Table><Category></Category>", 0, 0},
       {"mismatched end tag on line 3", "<Table>\n<Category>\n</Table>", 3, 0},
       {"a second root", "<a/>\n  <b/>", 2, 3},
       {"text behind the root", "<a/>junk", 1, 5},
       {"text before the root", "junk<a/>", 1, 1},
-      {"an unquoted attribute", "<a b=c/>", 0, 0},
-      {"a tag that cannot start with a digit", "<1a/>", 0, 0},
-      {"a stray end tag", "</a>", 0, 0},
       {"an unclosed comment", "<a><!-- </a>", 0, 0},
+      {"garbage", "this is not XML", 0, 0},
+      {"an unquoted attribute", "<a b=c/>", 0, 0},
+      {"a stray end tag", "</a>", 0, 0},
+      {"columns count characters", QString::fromUtf8("<a>\u00e9\u00e9</a><b/>"), 1, 10},
   };
   for (const Row& row : rows) {
     SCOPED_TRACE(row.name);
@@ -308,25 +277,11 @@ TEST(XmlDocumentLoad, MalformedTextRaisesXmlExceptionWithItsPosition) {
       EXPECT_FALSE(fault.message().isEmpty());
       EXPECT_GE(fault.line(), 1);
       EXPECT_GE(fault.column(), 1);
-      if (row.line) {
-        EXPECT_EQ(fault.line(), row.line) << fault.message().toStdString();
-      }
-      if (row.column) {
-        EXPECT_EQ(fault.column(), row.column) << fault.message().toStdString();
-      }
+      EXPECT_EQ(row.line ? fault.line() : 0, row.line) << fault.message().toStdString();
+      EXPECT_EQ(row.column ? fault.column() : 0, row.column) << fault.message().toStdString();
       EXPECT_TRUE(fault.message().contains(QStringLiteral("line %1").arg(fault.line())));
     }
     EXPECT_EQ(doc.ChildCount(), 0);
-  }
-}
-
-TEST(XmlDocumentLoad, ColumnsCountCharacters) {
-  try {
-    XmlDocument(QString::fromUtf8("<a>\u00e9\u00e9</a><b/>"));
-    FAIL() << "no exception";
-  } catch (const XmlException& fault) {
-    EXPECT_EQ(fault.line(), 1);
-    EXPECT_EQ(fault.column(), 10);
   }
 }
 
@@ -350,39 +305,16 @@ TEST(XmlDocumentLoad, NodesOutliveTheirDocumentAndItsReloads) {
   EXPECT_TRUE(doc.Child(0).IsNil());
 }
 
-TEST(XmlDocumentLoad, CopiesAreTheSameDocument) {
-  XmlDocument doc;
-  const XmlDocument copy = doc;
-  doc.LoadXml(QStringLiteral("<Table/>"));
-  EXPECT_EQ(copy.Child(0).Name(), "Table");
-}
-
-TEST(XmlLimits, DeepNestingLoadsAndWalks) {
+TEST(XmlLimits, DeepNestingLoadsAndWalksAndDeeperRaisesInsteadOfOverflowing) {
   constexpr int kDepth = 10000;
-  QString xml;
-  for (int i = 0; i < kDepth; ++i) xml += "<a>";
-  xml += "bottom";
-  for (int i = 0; i < kDepth; ++i) xml += "</a>";
-
-  const XmlDocument doc(xml);
+  const XmlDocument doc(QString("<a>").repeated(kDepth) + "bottom" + QString("</a>").repeated(kDepth));
   XmlNode node = doc.Child(0);
   for (int i = 1; i < kDepth; ++i) node = node.FirstChild();
-  EXPECT_EQ(node.Name(), "a");
   EXPECT_EQ(node.Child(0).Value(), "bottom");
   EXPECT_EQ(doc.Xql("//a").Length(), kDepth);
   EXPECT_EQ(doc.Xql("//a[not(a)]").Item(0).Child(0).Value(), "bottom");
-}
-
-TEST(XmlLimits, DeepBrokenNestingRaises) {
-  QString xml;
-  for (int i = 0; i < 100000; ++i) xml += "<a>";
-  EXPECT_THROW(XmlDocument{xml}, XmlException);
-}
-
-TEST(XmlLimits, ADeeplyNestedQueryRaisesInsteadOfOverflowing) {
-  const XmlDocument doc(QStringLiteral("<a/>"));
-  const QString query = QString(20000, '(') + "a" + QString(20000, ')');
-  EXPECT_THROW(doc.Xql(query), XmlException);
+  EXPECT_THROW(XmlDocument{QString("<a>").repeated(100000)}, XmlException);
+  EXPECT_THROW(doc.Xql(QString(20000, '(') + "a" + QString(20000, ')')), XmlException);
 }
 
 }  // namespace

@@ -1,7 +1,7 @@
 #!/usr/bin/python3
 """Writes a script of random user actions for abacon-drive.
 
-    soak_script.py [--actions N] [--seed S] [--support DIR] [--no-restarts]
+    soak_script.py [--actions N] [--seed S] [--support DIR] [--no-restarts] [--log-file NAME]
 
 The script starts the program (with the introduction dismissed) and then does N
 random actions, one or a few driver commands each: drops of random text under random
@@ -91,8 +91,9 @@ def support_sizes(folder):
 
 
 class Generator:
-    def __init__(self, rng, sizes, restarts):
+    def __init__(self, rng, sizes, restarts, log_file):
         self.rng = rng
+        self.log_file = log_file
         self.sizes = sizes
         self.restarts = restarts
         self.lines = []
@@ -319,7 +320,7 @@ class Generator:
 
     def action(self):
         r = self.rng.random()
-        if self.restarts and r < 0.0002:
+        if self.restarts and r < 0.00003:
             self.restart()
         elif r < 0.0003:
             self.emit("click PushButton3")  # save the log
@@ -344,9 +345,13 @@ class Generator:
         self.emit("launch")
         for _ in range(actions):
             self.action()
-        # The figures the soak reports: the log's final size and the formulas kept.
+        # The log's final size, measured by the program's own "Save" into an emptied file
+        # of the day (printing the log would cost copies of it that the program never
+        # makes), and the formulas kept.
+        self.emit("write Application/%s %s" % (self.log_file, quote("")))
+        self.emit("click PushButton3")
         self.emit("get Listbox3.ListCount")
-        self.emit("get EditField2.Text")
+        self.emit("events")
         self.emit("quit")
         return self.lines
 
@@ -359,9 +364,12 @@ def main():
                         help="the support files the run uses (sizes of the fixed lists)")
     parser.add_argument("--no-restarts", action="store_true",
                         help="one launch for the whole script")
+    parser.add_argument("--log-file", default="VXLog11-23-26.txt",
+                        help="the name the log is saved under at the end: the date of the "
+                             "driver's --clock (default that of 2026-11-23)")
     args = parser.parse_args()
     rng = random.Random(args.seed)
-    generator = Generator(rng, support_sizes(args.support), not args.no_restarts)
+    generator = Generator(rng, support_sizes(args.support), not args.no_restarts, args.log_file)
     out = sys.stdout
     for line in generator.script(args.actions, args.seed):
         out.write(line + "\n")
