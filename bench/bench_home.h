@@ -6,7 +6,7 @@
 #include <QFile>
 #include <QTemporaryDir>
 
-#include "platform/files/special_folder.h"
+#include "platform/files/folders.h"
 
 namespace benchsupport {
 

@@ -30,7 +30,7 @@
 
 #include "platform/controls/controls.h"
 #include "platform/desktop/recording_desktop.h"
-#include "platform/files/special_folder.h"
+#include "platform/files/folders.h"
 #include "platform/qt/program.h"
 #include "platform/qt/window_view.h"
 

@@ -8,7 +8,7 @@
 #include <cstdint>
 
 #include "driver.h"
-#include "platform/files/special_folder.h"
+#include "platform/files/folders.h"
 #include "script_line.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {

@@ -3,7 +3,7 @@
 #include "app/window1.h"
 #include "guidance/window2.h"
 #include "platform/exceptions.h"
-#include "platform/files/special_folder.h"
+#include "platform/files/folders.h"
 #include "platform/strings/strings.h"
 
 namespace app {

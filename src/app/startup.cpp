@@ -1,7 +1,7 @@
 #include "app/app.h"
 #include "app/window1.h"
 #include "guidance/texts.h"
-#include "platform/files/special_folder.h"
+#include "platform/files/folders.h"
 #include "platform/strings/strings.h"
 
 namespace app {

@@ -1,6 +1,6 @@
 #include "app/window1.h"
 #include "platform/desktop/desktop.h"
-#include "platform/files/special_folder.h"
+#include "platform/files/folders.h"
 #include "platform/strings/strings.h"
 #include "platform/xml/xml.h"
 

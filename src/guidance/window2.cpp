@@ -5,7 +5,7 @@
 
 #include "app/app.h"
 #include "guidance/texts.h"
-#include "platform/files/special_folder.h"
+#include "platform/files/folders.h"
 
 namespace app {
 

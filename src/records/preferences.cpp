@@ -1,7 +1,7 @@
 #include <algorithm>
 
 #include "app/window1.h"
-#include "platform/files/special_folder.h"
+#include "platform/files/folders.h"
 #include "platform/strings/strings.h"
 
 // The settings live in their controls; nothing here keeps a copy. Saving writes the

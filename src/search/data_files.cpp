@@ -1,6 +1,6 @@
 #include "search/data_files.h"
 
-#include "platform/files/special_folder.h"
+#include "platform/files/folders.h"
 
 namespace search {
 

@@ -9,7 +9,7 @@
 
 #include "platform/exceptions.h"
 #include "platform/files/folder_item.h"
-#include "platform/files/special_folder.h"
+#include "platform/files/folders.h"
 #include "support/printers.h"
 
 namespace platform {

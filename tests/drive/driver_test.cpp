@@ -6,7 +6,7 @@
 #include <QTextStream>
 
 #include "driver.h"
-#include "platform/files/special_folder.h"
+#include "platform/files/folders.h"
 #include "script_line.h"
 
 namespace {

@@ -13,7 +13,7 @@
 #include "app/app.h"
 #include "app/window1.h"
 #include "platform/desktop/recording_desktop.h"
-#include "platform/files/special_folder.h"
+#include "platform/files/folders.h"
 
 namespace testsupport {
 

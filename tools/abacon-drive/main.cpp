@@ -13,7 +13,7 @@
 #include <optional>
 
 #include "driver.h"
-#include "platform/files/special_folder.h"
+#include "platform/files/folders.h"
 
 namespace {
 

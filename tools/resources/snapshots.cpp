@@ -26,7 +26,7 @@
 #include "guidance/texts.h"
 #include "guidance/window2.h"
 #include "platform/desktop/recording_desktop.h"
-#include "platform/files/special_folder.h"
+#include "platform/files/folders.h"
 #include "platform/qt/program.h"
 
 namespace {

@@ -6,7 +6,7 @@
 #include <QStringDecoder>
 
 #include "platform/exceptions.h"
-#include "platform/files/special_folder.h"
+#include "platform/files/folders.h"
 
 namespace platform {
 

@@ -3,7 +3,7 @@
 #include <QFileInfo>
 #include <QHash>
 
-#include "platform/files/special_folder.h"
+#include "platform/files/folders.h"
 
 namespace platform::qt {
 

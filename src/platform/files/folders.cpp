@@ -1,4 +1,4 @@
-#include "platform/files/special_folder.h"
+#include "platform/files/folders.h"
 
 #include <QCoreApplication>
 #include <QDir>
