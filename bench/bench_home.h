@@ -6,6 +6,9 @@
 #include <QFile>
 #include <QTemporaryDir>
 
+#include "app/app.h"
+#include "app/window1.h"
+#include "platform/desktop/recording_desktop.h"
 #include "platform/files/folders.h"
 
 namespace benchsupport {
@@ -35,6 +38,18 @@ class BenchHome {
 
  private:
   QTemporaryDir dir_;
+};
+
+// The program launched on such a home, Window1 open.
+struct Launched {
+  BenchHome home;
+  platform::RecordingDesktop desktop;
+  app::App program{desktop};
+  app::Window1* window = nullptr;
+  Launched() {
+    program._Startup();
+    window = program.window1();
+  }
 };
 
 }  // namespace benchsupport

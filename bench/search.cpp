@@ -3,23 +3,12 @@
 
 #include <benchmark/benchmark.h>
 
-#include "app/app.h"
 #include "app/window1.h"
 #include "bench_home.h"
-#include "platform/desktop/recording_desktop.h"
 
 namespace {
 
-struct Launched {
-  benchsupport::BenchHome home;
-  platform::RecordingDesktop desktop;
-  app::App program{desktop};
-  app::Window1* window = nullptr;
-  Launched() {
-    program._Startup();
-    window = program.window1();
-  }
-};
+using benchsupport::Launched;
 
 void BM_PhysicalSmartSearch(benchmark::State& state) {
   Launched l;

