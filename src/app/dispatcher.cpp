@@ -27,11 +27,7 @@ void Window1::ButtonAct(const QString& t) {
     return;
   }
 
-  // The first real text decides for the user; a help request leaves "Action" standing.
-  if (StrEq(BevelButton1->Caption(), "Action")) {
-    BevelButton1->setCaption("calculate");
-    log(">>>Calculate (default action)");
-  }
+  defaultToCalculate();
 
   log("Entered: " + t);
   QString w = t;
@@ -48,19 +44,8 @@ void Window1::ButtonAct(const QString& t) {
     calculateStages(w);
   } else if (StrEq(caption, "convert")) {
     convertPath(w, RunBlink::None);
-  } else if (StrEq(caption, "physical data")) {
-    searchPath(w, DataSet::Physical, Input::Typed);
-  } else if (StrEq(caption, "astro data")) {
-    searchPath(w, DataSet::Astro, Input::Typed);
-  } else if (StrEq(caption, "Formulas (math)")) {
-    formulaPath(w, dict5);
-  } else if (StrEq(caption, "Formulas (astro)")) {
-    formulaPath(w, dict4);
-  } else if (StrEq(caption, "Formulas (phys)")) {
-    formulaPath(w, dict3);
   } else {
-    // "Solve" and "Settings": the text was taken and logged, and has no use here.
-    app().playClaves();
+    lookUpOrDecline(w, caption, Input::Typed);
   }
 }
 

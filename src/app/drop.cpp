@@ -34,10 +34,7 @@ void Window1::Event_DropObject(const platform::DragItem& obj, int /*action*/) {
     return;
   }
 
-  if (StrEq(BevelButton1->Caption(), "Action")) {
-    BevelButton1->setCaption("calculate");
-    log(">>>Calculate (default action)");
-  }
+  defaultToCalculate();
 
   log("Entered: " + obj.Text());
   QString w = obj.Text();
@@ -73,18 +70,8 @@ void Window1::Event_DropObject(const platform::DragItem& obj, int /*action*/) {
     } else {
       TextField1->setText(w);
     }
-  } else if (StrEq(caption, "physical data")) {
-    searchPath(w, DataSet::Physical, Input::Dropped);
-  } else if (StrEq(caption, "astro data")) {
-    searchPath(w, DataSet::Astro, Input::Dropped);
-  } else if (StrEq(caption, "Formulas (math)")) {
-    formulaPath(w, dict5);
-  } else if (StrEq(caption, "Formulas (astro)")) {
-    formulaPath(w, dict4);
-  } else if (StrEq(caption, "Formulas (phys)")) {
-    formulaPath(w, dict3);
   } else {
-    app().playClaves();
+    lookUpOrDecline(w, caption, Input::Dropped);
   }
 }
 

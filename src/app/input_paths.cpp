@@ -81,4 +81,31 @@ void Window1::logNotFound() {
       "Try words in a different order or use a single word or part of a word");
 }
 
+// The first real text decides for the user; a help request leaves "Action" standing.
+void Window1::defaultToCalculate() {
+  if (platform::StrEq(BevelButton1->Caption(), "Action")) {
+    BevelButton1->setCaption("calculate");
+    log(">>>Calculate (default action)");
+  }
+}
+
+// The last branches of the cascade, alike in both twins but for what a search shows.
+void Window1::lookUpOrDecline(const QString& w, const QString& caption, Input input) {
+  using platform::StrEq;
+  if (StrEq(caption, "physical data")) {
+    searchPath(w, DataSet::Physical, input);
+  } else if (StrEq(caption, "astro data")) {
+    searchPath(w, DataSet::Astro, input);
+  } else if (StrEq(caption, "Formulas (math)")) {
+    formulaPath(w, dict5);
+  } else if (StrEq(caption, "Formulas (astro)")) {
+    formulaPath(w, dict4);
+  } else if (StrEq(caption, "Formulas (phys)")) {
+    formulaPath(w, dict3);
+  } else {
+    // "Solve" and "Settings": the text was taken and logged, and has no use here.
+    app().playClaves();
+  }
+}
+
 }  // namespace app

@@ -83,6 +83,10 @@ class Window1 : public platform::Window {
   void formulaPath(const QString& w, const std::shared_ptr<platform::Dictionary>& d);
   // The two lines a search without result leaves in the log.
   void logNotFound();
+  // "Action" becomes "calculate", with its log line, at the first text that is not help.
+  void defaultToCalculate();
+  // The search, formula and decline branches of the cascade, the same in both twins.
+  void lookUpOrDecline(const QString& w, const QString& caption, Input input);
 
   // ---- src/app/window_modes.cpp ----
   bool ImageWell1_MouseDown(int x, int y);
